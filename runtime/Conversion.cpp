@@ -1,0 +1,125 @@
+#include "runtime/Conversion.h"
+
+#include "runtime/CifrasDecimales.h"
+#include "runtime/TipoDeValor.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace runtime {
+
+namespace {
+
+bool esDigito(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+bool esBlanco(QChar c) {
+    return c == u' ' || c == u'\t';
+}
+bool esSigno(QChar c) {
+    return c == u'+' || c == u'-';
+}
+
+qsizetype finDeLosDigitos(QStringView texto, qsizetype desde) {
+    while (desde < texto.size() && esDigito(texto[desde]))
+        ++desde;
+    return desde;
+}
+
+// Parte entera con comas de miles, que sólo pueden ir entre cifras ("1,500").
+qsizetype finDeEnteraConComas(QStringView texto, qsizetype desde) {
+    qsizetype fin = finDeLosDigitos(texto, desde);
+    while (fin > desde && fin + 1 < texto.size() && texto[fin] == u',' && esDigito(texto[fin + 1]))
+        fin = finDeLosDigitos(texto, fin + 1);
+    return fin;
+}
+
+// El exponente sólo cuenta si le siguen cifras: en "1e" el número es "1".
+qsizetype finDelExponente(QStringView texto, qsizetype desde) {
+    if (desde >= texto.size() || (texto[desde] != u'e' && texto[desde] != u'E')) return desde;
+    qsizetype cursor = desde + 1;
+    if (cursor < texto.size() && esSigno(texto[cursor])) ++cursor;
+    const qsizetype fin = finDeLosDigitos(texto, cursor);
+    return fin > cursor ? fin : desde;
+}
+
+// Cuántos caracteres del principio del texto forman un número; 0 si no empieza con uno.
+qsizetype largoDelNumero(QStringView texto, bool conComasDeMiles) {
+    qsizetype fin = (!texto.isEmpty() && esSigno(texto[0])) ? 1 : 0;
+    const qsizetype inicioEntera = fin;
+    fin = conComasDeMiles ? finDeEnteraConComas(texto, fin) : finDeLosDigitos(texto, fin);
+    bool hayCifras = fin > inicioEntera;
+    if (fin < texto.size() && texto[fin] == u'.') {
+        const qsizetype finDecimal = finDeLosDigitos(texto, fin + 1);
+        hayCifras = hayCifras || finDecimal > fin + 1;
+        fin = finDecimal;
+    }
+    return hayCifras ? finDelExponente(texto, fin) : 0;
+}
+
+QStringView sinBlancosIniciales(QStringView texto) {
+    qsizetype inicio = 0;
+    while (inicio < texto.size() && esBlanco(texto[inicio]))
+        ++inicio;
+    return texto.mid(inicio);
+}
+
+QStringView sinBlancosFinales(QStringView texto) {
+    qsizetype fin = texto.size();
+    while (fin > 0 && esBlanco(texto[fin - 1]))
+        --fin;
+    return texto.left(fin);
+}
+
+} // namespace
+
+double Val(const QString& texto) {
+    const QStringView resto = sinBlancosIniciales(texto);
+    const qsizetype largo = largoDelNumero(resto, false);
+    // QString::toDouble lee con el locale "C" y da infinito si el número no cabe.
+    return largo > 0 ? resto.left(largo).toString().toDouble() : 0.0;
+}
+
+double ValNulo(const QVariant& valor) {
+    if (detalle::esNulo(valor)) return 0.0;
+    if (valor.typeId() == QMetaType::Bool) return valor.toBool() ? -1.0 : 0.0;
+    if (detalle::esNumerico(valor)) return valor.toDouble();
+    return Val(TextoDe(valor));
+}
+
+double Int(double x) {
+    return std::floor(x);
+}
+
+double Fix(double x) {
+    return std::trunc(x);
+}
+
+qint32 CLng(double x) {
+    if (std::isnan(x)) return 0;
+    double entero = std::floor(x);
+    const double resto = x - entero;
+    const bool enteroImpar = std::fmod(entero, 2.0) != 0.0;
+    if (resto > 0.5 || (resto == 0.5 && enteroImpar)) entero += 1.0;
+    // Acotar evita el comportamiento indefinido de convertir un double que no cabe.
+    constexpr double minimo = std::numeric_limits<qint32>::min();
+    constexpr double maximo = std::numeric_limits<qint32>::max();
+    return static_cast<qint32>(std::clamp(entero, minimo, maximo));
+}
+
+qint32 CLng(const QVariant& valor) {
+    return CLng(ValNulo(valor));
+}
+
+double RedondearDecimal(double x, int decimales) {
+    if (!std::isfinite(x)) return x;
+    return detalle::valorDe(detalle::redondeadas(detalle::cifrasDe(x), decimales));
+}
+
+bool EsNumero(const QString& texto) {
+    const QStringView numero = sinBlancosFinales(sinBlancosIniciales(texto));
+    return !numero.isEmpty() && largoDelNumero(numero, true) == numero.size();
+}
+
+} // namespace runtime

@@ -1,0 +1,246 @@
+#include "store/Recordset.h"
+
+#include "store/ConversionValores.h"
+#include "store/ErrorBase.h"
+#include "store/Fallo.h"
+#include "store/FuenteEditable.h"
+#include "store/sql/Parser.h"
+
+#include <QSqlField>
+#include <QSqlIndex>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+namespace store {
+
+// ---- Campo ------------------------------------------------------------------------------------
+
+QString Campo::Name() const {
+    return rs_->nombres_.at(indice_);
+}
+QMetaType::Type Campo::Type() const {
+    return rs_->tipos_.at(indice_);
+}
+QVariant Campo::Value() const {
+    return rs_->valor(indice_);
+}
+void Campo::setValue(const QVariant& valor) {
+    rs_->asignar(indice_, valor);
+}
+QVariant Campo::OriginalValue() const {
+    return rs_->valorOriginal(indice_);
+}
+
+// ---- opening and reading ------------------------------------------------------------------------
+
+Recordset::Recordset(QObject* parent)
+    : QObject(parent) {
+}
+
+Recordset::~Recordset() = default;
+
+void Recordset::Open(const QString& fuente, const Conexion& conexion, TipoCursor, TipoBloqueo bloqueo) {
+    if (abierto_)
+        throw Fallo(FalloOperacionNoPermitida,
+                    QStringLiteral("No se permite la operación cuando el objeto está abierto."));
+    if (conexion.State() != adStateOpen)
+        throw Fallo(FalloObjetoCerrado,
+                    QStringLiteral("No se permite la operación cuando el objeto está cerrado."));
+    conexion_ = conexion;
+    bloqueo_ = bloqueo;
+    leer(fuente);
+}
+
+void Recordset::Requery() {
+    exigirAbierto();
+    leer(fuente_);
+}
+
+void Recordset::leer(const QString& fuente) {
+    const sql::Sentencia sentencia = sql::analizar(fuente);
+    const QString traducida = conexion_.dialecto().traducir(sentencia, &conexion_.catalogo());
+
+    QSqlQuery q(conexion_.baseDatos());
+    q.setForwardOnly(true);
+    if (!q.exec(traducida)) throw Fallo(FalloGeneral, textoError(q.lastError()));
+
+    const QSqlRecord registro = q.record();
+    QStringList nombres;
+    QVector<QMetaType::Type> tipos;
+    for (int i = 0; i < registro.count(); ++i) {
+        nombres << registro.fieldName(i);
+        tipos << static_cast<QMetaType::Type>(registro.field(i).metaType().id());
+    }
+    QVector<QVector<QVariant>> filas;
+    while (q.next()) {
+        QVector<QVariant> fila(registro.count());
+        for (int i = 0; i < registro.count(); ++i)
+            if (!q.isNull(i)) fila[i] = q.value(i);
+        filas.push_back(std::move(fila));
+    }
+
+    fuente_ = fuente;
+    nombres_ = nombres;
+    tipos_ = tipos;
+    filas_ = std::move(filas);
+    tabla_.reset();
+    if (bloqueo_ != adLockReadOnly) {
+        if (const auto editable = fuenteEditable(sentencia)) {
+            TablaBase t;
+            t.tabla = editable->tabla;
+            for (const QString& n : nombres_) {
+                const QString columna = editable->columnaPorCampo.value(n.toLower());
+                t.columnas << (!columna.isEmpty() ? columna : editable->todas ? n : QString());
+            }
+            const QSqlIndex primaria = conexion_.baseDatos().primaryIndex(t.tabla);
+            t.clave = primaria.count() == 1 ? primaria.fieldName(0) : t.tabla + QStringLiteral("ID");
+            for (int i = 0; i < t.columnas.size(); ++i)
+                if (t.columnas[i].compare(t.clave, Qt::CaseInsensitive) == 0) t.indiceClave = i;
+            if (t.indiceClave >= 0) tabla_ = t;
+        }
+    }
+    abierto_ = true;
+    modo_ = adEditNone;
+    pos_ = 0;
+    Q_EMIT filaCambiada();
+}
+
+void Recordset::Close() {
+    exigirAbierto();
+    abierto_ = false;
+    filas_.clear();
+    nombres_.clear();
+    tipos_.clear();
+    tabla_.reset();
+    modo_ = adEditNone;
+    pos_ = 0;
+}
+
+int Recordset::State() const {
+    return abierto_ ? adStateOpen : adStateClosed;
+}
+
+void Recordset::setActiveConnection(const Conexion& conexion) {
+    conexion_ = conexion;
+}
+
+void Recordset::exigirAbierto() const {
+    if (!abierto_)
+        throw Fallo(FalloObjetoCerrado,
+                    QStringLiteral("No se permite la operación cuando el objeto está cerrado."));
+}
+
+void Recordset::exigirFilaActual() const {
+    exigirAbierto();
+    if (Eof() || Bof())
+        throw Fallo(
+            FalloSinRegistroActual,
+            QStringLiteral("BOF o EOF es True, o el registro actual se eliminó. La operación solicitada "
+                           "requiere un registro actual."));
+}
+
+// ---- navigation ---------------------------------------------------------------------------------
+
+bool Recordset::Eof() const {
+    return filas_.isEmpty() || pos_ >= filas_.size();
+}
+bool Recordset::Bof() const {
+    return filas_.isEmpty() || pos_ < 0;
+}
+int Recordset::RecordCount() const {
+    exigirAbierto();
+    return static_cast<int>(filas_.size());
+}
+
+int Recordset::AbsolutePosition() const {
+    return Eof() || Bof() ? 0 : pos_ + 1;
+}
+
+void Recordset::setAbsolutePosition(int posicion) {
+    exigirAbierto();
+    if (posicion < 1 || posicion > filas_.size())
+        throw Fallo(FalloOperacionNoPermitida,
+                    QStringLiteral("La posición %1 no existe en el conjunto de registros.").arg(posicion));
+    moverA(posicion - 1);
+}
+
+void Recordset::MoveFirst() {
+    exigirAbierto();
+    moverA(0);
+}
+
+void Recordset::MoveLast() {
+    exigirAbierto();
+    moverA(filas_.isEmpty() ? 0 : static_cast<int>(filas_.size()) - 1);
+}
+
+void Recordset::MoveNext() {
+    exigirAbierto();
+    if (Eof()) exigirFilaActual();
+    moverA(pos_ + 1);
+}
+
+void Recordset::MovePrevious() {
+    exigirAbierto();
+    if (Bof()) exigirFilaActual();
+    moverA(pos_ - 1);
+}
+
+// Leaving a row that is being edited stores it first, as a bound cursor does.
+void Recordset::terminarEdicionAntesDeMover() {
+    if (modo_ != adEditNone) Update();
+}
+
+void Recordset::moverA(int posicion) {
+    terminarEdicionAntesDeMover();
+    pos_ = std::clamp(posicion, -1, static_cast<int>(filas_.size()));
+    Q_EMIT filaCambiada();
+}
+
+// ---- fields -------------------------------------------------------------------------------------
+
+int Recordset::FieldCount() const {
+    exigirAbierto();
+    return static_cast<int>(nombres_.size());
+}
+
+int Recordset::indiceCampo(const QString& nombre) const {
+    for (int i = 0; i < nombres_.size(); ++i)
+        if (nombres_[i].compare(nombre, Qt::CaseInsensitive) == 0) return i;
+    return -1;
+}
+
+int Recordset::indiceExigido(const QString& nombre) const {
+    exigirAbierto();
+    const int i = indiceCampo(nombre);
+    if (i < 0)
+        throw Fallo(
+            FalloCampoInexistente,
+            QStringLiteral("No se encontró el elemento \"%1\" en la colección que corresponde al nombre o al "
+                           "ordinal solicitado.")
+                .arg(nombre));
+    return i;
+}
+
+Campo Recordset::Fields(int indice) {
+    exigirAbierto();
+    if (indice < 0 || indice >= nombres_.size())
+        return Fields(QString::number(indice)); // reports the missing item
+    return Campo(this, indice);
+}
+
+Campo Recordset::Fields(const QString& nombre) {
+    return Campo(this, indiceExigido(nombre));
+}
+
+QVariant Recordset::valor(int campo) const {
+    exigirFilaActual();
+    return filas_[pos_][campo];
+}
+
+QVariant Recordset::valorOriginal(int campo) const {
+    exigirFilaActual();
+    return modo_ == adEditInProgress ? original_[campo] : filas_[pos_][campo];
+}
+
+} // namespace store

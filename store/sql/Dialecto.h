@@ -1,0 +1,58 @@
+#pragma once
+
+#include "store/sql/Ast.h"
+
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+#include <optional>
+
+class QSqlDatabase;
+
+namespace store::sql {
+
+// What the translator may ask of the database's tables: the type of a column, so that a text such as
+// '22/11/2026' written into a date column is read day first, as the program means it.
+class Catalogo {
+public:
+    virtual ~Catalogo() = default;
+    virtual std::optional<QMetaType::Type> tipoColumna(const QString& tabla,
+                                                       const QString& columna) const = 0;
+};
+
+// The database behind the data source. The program writes every statement in one dialect; a Dialecto
+// writes the parsed statement out in its database's SQL, and answers the few questions a recordset
+// asks when it writes a row. The rendering common to every database lives here; each database
+// overrides the constructs it spells differently.
+class Dialecto {
+public:
+    virtual ~Dialecto() = default;
+
+    virtual QString nombre() const = 0;
+
+    QString traducir(const Sentencia& sentencia, const Catalogo* catalogo = nullptr) const;
+
+    // A quoted identifier when the name needs it.
+    virtual QString identificador(const QString& nombre, bool forzarComillas = false) const;
+    // "columna <null-safe => ?": finds a row by a value that may be Null.
+    virtual QString igualdadSegura(const QString& columnaCitada) const = 0;
+    // The key the database gave to the row that this connection inserted last.
+    virtual QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const = 0;
+
+    // Constructs spelled differently by each database. Arguments are already rendered SQL.
+    virtual QString concatenar(const std::vector<QString>& partes) const = 0;
+    virtual QString formatear(const QString& valor, const QString& patron) const = 0;
+    virtual QString literalFecha(const QDate& fecha) const = 0;
+    virtual QString literalLogico(bool valor) const = 0;
+    virtual QString parecido(const QString& valor, const QString& patron,
+                             const QString* patronLiteral) const = 0;
+    virtual QString comoReal(const QString& valor) const = 0;
+    virtual QString comoTexto(const QString& valor) const = 0;
+    virtual QString derecha(const QString& texto, const QString& largo) const = 0;
+    virtual QString hoy() const = 0;
+    virtual QString ahora() const = 0;
+
+    QString literalTexto(const QString& texto) const;
+};
+
+} // namespace store::sql

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "store/sql/Dialecto.h"
+
+namespace store::sql {
+
+// SQLite through its ODBC driver: dates are 'YYYY-MM-DD' text, booleans 1 and 0, text joined with ||.
+class DialectoSQLite : public Dialecto {
+public:
+    QString nombre() const override { return QStringLiteral("SQLite"); }
+
+    QString igualdadSegura(const QString& columnaCitada) const override;
+    QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const override;
+
+    QString concatenar(const std::vector<QString>& partes) const override;
+    QString formatear(const QString& valor, const QString& patron) const override;
+    QString literalFecha(const QDate& fecha) const override;
+    QString literalLogico(bool valor) const override;
+    QString parecido(const QString& valor, const QString& patron,
+                     const QString* patronLiteral) const override;
+    QString comoReal(const QString& valor) const override;
+    QString comoTexto(const QString& valor) const override;
+    QString derecha(const QString& texto, const QString& largo) const override;
+    QString hoy() const override;
+    QString ahora() const override;
+};
+
+} // namespace store::sql

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+// A fresh SQLite database in a temporary directory, reached through the data source DSNBrenal of a
+// temporary ODBC configuration (ODBCSYSINI, ODBCINI and HOME point into the directory, so no data
+// source of the machine or the user is seen). While it lives, `Conexion("DSN=DSNBrenal")` opens it.
+// The environment is restored when it goes.
+class BaseDePrueba {
+public:
+    // With esquema true the database is built from the project's schema/sqlite scripts.
+    explicit BaseDePrueba(bool esquema = false);
+    ~BaseDePrueba();
+    BaseDePrueba(const BaseDePrueba&) = delete;
+    BaseDePrueba& operator=(const BaseDePrueba&) = delete;
+
+    QString archivo() const;
+    QString directorio() const { return dir_.path(); }
+    // Runs one or more statements of SQLite's own SQL straight on the file (no ODBC, no translation):
+    // the set-up of a test. Fails the test binary (qFatal) on an error.
+    void sqlite(const QString& script) const;
+    // One value read straight from the file, as text ("" for Null): a check that bypasses the store.
+    QString valor(const QString& consulta) const;
+
+    static QString rutaEsquema();
+
+private:
+    void escribirConfiguracionOdbc() const;
+
+    QTemporaryDir dir_;
+    QByteArray odbcSysIni_, odbcIni_, home_;
+    bool habiaOdbcSysIni_, habiaOdbcIni_, habiaHome_;
+};
