@@ -130,21 +130,27 @@ void Conexion::Open(const QString& cadena, const QString& usuario, const QString
             FalloConexion,
             QStringLiteral("No se encontró el nombre del origen de datos en \"%1\".").arg(d_->cadena));
 
-    QSqlDatabase bd = QSqlDatabase::contains(d_->nombreConexion)
-                          ? QSqlDatabase::database(d_->nombreConexion, false)
-                          : QSqlDatabase::addDatabase(QStringLiteral("QODBC"), d_->nombreConexion);
-    // Qt's ODBC driver writes "DSN=" itself: it takes the bare name.
-    bd.setDatabaseName(origen);
-    if (!bd.open(usuario, clave)) {
-        const QString texto = textoError(bd.lastError());
-        QSqlDatabase::removeDatabase(d_->nombreConexion);
-        throw Fallo(FalloConexion, texto);
+    QString error;
+    {
+        QSqlDatabase bd = QSqlDatabase::contains(d_->nombreConexion)
+                              ? QSqlDatabase::database(d_->nombreConexion, false)
+                              : QSqlDatabase::addDatabase(QStringLiteral("QODBC"), d_->nombreConexion);
+        // Qt's ODBC driver writes "DSN=" itself: it takes the bare name.
+        bd.setDatabaseName(origen);
+        if (bd.open(usuario, clave)) {
+            try {
+                d_->dialecto = dialectoPara(nombreGestor(bd), origen);
+            } catch (...) {
+                bd.close();
+                throw;
+            }
+        } else {
+            error = textoError(bd.lastError());
+        }
     }
-    try {
-        d_->dialecto = dialectoPara(nombreGestor(bd), origen);
-    } catch (...) {
-        bd.close();
-        throw;
+    if (!error.isNull()) {
+        QSqlDatabase::removeDatabase(d_->nombreConexion);
+        throw Fallo(FalloConexion, error);
     }
     d_->catalogo = std::make_unique<CatalogoDeBase>(d_->nombreConexion);
     d_->nivel = 0;

@@ -10,7 +10,7 @@
 namespace store {
 namespace {
 
-[[noreturn]] void filaCambiada() {
+[[noreturn]] void rechazarFilaCambiada() {
     throw Fallo(FalloFilaCambiada,
                 QStringLiteral("No se encuentra la fila para actualizarla: otro usuario la cambió o "
                                "la eliminó después de que se leyó."));
@@ -144,11 +144,8 @@ void Recordset::actualizarFila() {
     valores << original_[tabla_->indiceClave];
     valores += originales;
     QSqlQuery q = ejecutar(baseEscritura(), sentencia, valores);
-    if (q.numRowsAffected() == 0) {
-        filas_[pos_] = original_;
-        Q_EMIT valoresCambiados();
-        filaCambiada();
-    }
+    // The edit stays pending, so that the user may try again or cancel.
+    if (q.numRowsAffected() == 0) rechazarFilaCambiada();
 }
 
 void Recordset::Delete() {
@@ -164,7 +161,7 @@ void Recordset::Delete() {
     const QString sentencia = QStringLiteral("DELETE FROM %1 WHERE %2 = ?")
                                   .arg(d.identificador(tabla_->tabla), d.identificador(tabla_->clave));
     QSqlQuery q = ejecutar(baseEscritura(), sentencia, {clave});
-    if (q.numRowsAffected() == 0) filaCambiada();
+    if (q.numRowsAffected() == 0) rechazarFilaCambiada();
     modo_ = adEditNone;
     filas_.removeAt(pos_);
     Q_EMIT filaCambiada();
@@ -177,7 +174,7 @@ void Recordset::Resync() {
     const QString sentencia = QStringLiteral("SELECT * FROM %1 WHERE %2 = ?")
                                   .arg(d.identificador(tabla_->tabla), d.identificador(tabla_->clave));
     QSqlQuery q = ejecutar(baseEscritura(), sentencia, {filas_[pos_][tabla_->indiceClave]});
-    if (!q.next()) filaCambiada();
+    if (!q.next()) rechazarFilaCambiada();
     const QSqlRecord registro = q.record();
     for (int i = 0; i < nombres_.size(); ++i) {
         const int j = tabla_->columnas[i].isEmpty() ? -1 : registro.indexOf(tabla_->columnas[i]);

@@ -116,8 +116,14 @@ QVariant DialectoSQLite::claveGenerada(QSqlDatabase& bd, const QString&, const Q
 
 QString DialectoSQLite::concatenar(const std::vector<QString>& partes) const {
     QStringList r;
-    for (const QString& p : partes)
-        r << (p.startsWith(QLatin1Char('\'')) ? p : QStringLiteral("IFNULL(%1, '')").arg(p));
+    // A real joins as its shortest text (1200, not 1200.0), as the program's own & does.
+    for (const QString& p : partes) {
+        r << (p.startsWith(QLatin1Char('\''))
+                  ? p
+                  : QStringLiteral(
+                        "IFNULL(CASE WHEN typeof(%1) = 'real' THEN printf('%.15g', %1) ELSE %1 END, '')")
+                        .arg(p));
+    }
     return QLatin1Char('(') + r.join(QStringLiteral(" || ")) + QLatin1Char(')');
 }
 

@@ -46,16 +46,24 @@ void TstTraductor::traduce_data() {
     // & joins text with Null as empty, and binds looser than + and -.
     QTest::newRow("concatenacion") << "Select ClienteID as Codigo, Nombres & ' ' & Apellidos as Descripcion "
                                       "From Cliente Where ClienteID=-1"
-                                   << "SELECT ClienteID AS Codigo, (IFNULL(Nombres, '') || ' ' || "
-                                      "IFNULL(Apellidos, '')) AS Descripcion FROM "
+                                   << "SELECT ClienteID AS Codigo, (IFNULL(CASE WHEN typeof(Nombres) = "
+                                      "'real' THEN printf('%.15g', Nombres) ELSE Nombres END, '') || ' ' || "
+                                      "IFNULL(CASE WHEN typeof(Apellidos) = 'real' THEN printf('%.15g', "
+                                      "Apellidos) ELSE Apellidos END, '')) AS Descripcion FROM "
                                       "Cliente WHERE (ClienteID = (-1))";
     QTest::newRow("concatenacion despues de la suma")
         << "Select A & B + C From T"
-        << "SELECT (IFNULL(A, '') || IFNULL((B + C), '')) FROM T";
-    QTest::newRow("resta antes de concatenar") << "Select 'Q.' & Total - Pagado From T"
-                                               << "SELECT ('Q.' || IFNULL((Total - Pagado), '')) FROM T";
-    QTest::newRow("concatenacion sin blanco") << "Select a & ' '& b From T"
-                                              << "SELECT (IFNULL(a, '') || ' ' || IFNULL(b, '')) FROM T";
+        << "SELECT (IFNULL(CASE WHEN typeof(A) = 'real' THEN printf('%.15g', A) ELSE A END, '') || "
+           "IFNULL(CASE WHEN typeof((B + C)) = 'real' THEN printf('%.15g', (B + C)) ELSE (B + C) END, '')) "
+           "FROM T";
+    QTest::newRow("resta antes de concatenar")
+        << "Select 'Q.' & Total - Pagado From T"
+        << "SELECT ('Q.' || IFNULL(CASE WHEN typeof((Total - Pagado)) = 'real' THEN printf('%.15g', (Total - "
+           "Pagado)) ELSE (Total - Pagado) END, '')) FROM T";
+    QTest::newRow("concatenacion sin blanco")
+        << "Select a & ' '& b From T"
+        << "SELECT (IFNULL(CASE WHEN typeof(a) = 'real' THEN printf('%.15g', a) ELSE a END, '') || ' ' || "
+           "IFNULL(CASE WHEN typeof(b) = 'real' THEN printf('%.15g', b) ELSE b END, '')) FROM T";
     // One-argument IsNull in any letter case.
     QTest::newRow("ISNULL mayusculas")
         << "Select ConceptoID as Codigo, Descripcion From Concepto Where ISNULL(Tipo) Order By 2,1"
