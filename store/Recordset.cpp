@@ -4,6 +4,7 @@
 #include "store/ErrorBase.h"
 #include "store/Fallo.h"
 #include "store/FuenteEditable.h"
+#include "store/LectorOdbc.h"
 #include "store/sql/Parser.h"
 
 #include <QSqlField>
@@ -64,25 +65,12 @@ void Recordset::leer(const QString& fuente) {
     q.setForwardOnly(true);
     if (!q.exec(traducida)) throw Fallo(FalloGeneral, textoError(q.lastError()));
 
-    const QSqlRecord registro = q.record();
-    QStringList nombres;
-    QVector<QMetaType::Type> tipos;
-    for (int i = 0; i < registro.count(); ++i) {
-        nombres << registro.fieldName(i);
-        tipos << static_cast<QMetaType::Type>(registro.field(i).metaType().id());
-    }
-    QVector<QVector<QVariant>> filas;
-    while (q.next()) {
-        QVector<QVariant> fila(registro.count());
-        for (int i = 0; i < registro.count(); ++i)
-            if (!q.isNull(i)) fila[i] = q.value(i);
-        filas.push_back(std::move(fila));
-    }
+    ResultadoLeido leido = leerResultado(q);
 
     fuente_ = fuente;
-    nombres_ = nombres;
-    tipos_ = tipos;
-    filas_ = std::move(filas);
+    nombres_ = std::move(leido.nombres);
+    tipos_ = std::move(leido.tipos);
+    filas_ = std::move(leido.filas);
     tabla_.reset();
     if (bloqueo_ != adLockReadOnly) {
         if (const auto editable = fuenteEditable(sentencia)) {

@@ -1,0 +1,360 @@
+// The recordset and the data control: reading, moving, finding, and writing rows back with the
+// column's type, the table's defaults and optimistic concurrency.
+#include "BaseDePrueba.h"
+#include "EsquemaDePrueba.h"
+#include "store/Adodc.h"
+#include "store/Conexion.h"
+#include "store/Fallo.h"
+#include "store/Recordset.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace store;
+
+namespace {
+
+qint32 numeroDelFallo(const std::function<void()>& accion) {
+    try {
+        accion();
+    } catch (const Fallo& f) {
+        return f.numero();
+    }
+    return 0;
+}
+
+} // namespace
+
+class TstRecordset : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void camposPorNombreYPosicion();
+    void recordsetVacio();
+    void recorrido();
+    void buscar_data();
+    void buscar();
+    void agregarUsaLosValoresPorDefecto();
+    void conversionAlTipoDeLaColumna_data();
+    void conversionAlTipoDeLaColumna();
+    void valorQueNoCabe_data();
+    void valorQueNoCabe();
+    void modificarEscribeSoloLoCambiado();
+    void dosEdicionesDeLaMismaFila();
+    void cancelarAgregado();
+    void eliminarFilaActual();
+    void soloLectura_data();
+    void soloLectura();
+    void filaDentroDeLaTransaccionCompartida();
+    void controlDeDatos();
+
+private:
+    Recordset* abrir(const QString& fuente, TipoBloqueo bloqueo = adLockOptimistic);
+
+    std::unique_ptr<BaseDePrueba> base_;
+    Conexion cn_;
+    std::vector<std::unique_ptr<Recordset>> abiertos_;
+};
+
+void TstRecordset::init() {
+    base_ = std::make_unique<BaseDePrueba>();
+    base_->sqlite(esquemaDePrueba());
+    base_->sqlite(QStringLiteral(
+        "INSERT INTO Banco (Nombre, Direccion) VALUES ('Banco Industrial', 'Zona 4'), ('Banrural', NULL), "
+        "('G&T Continental', 'Zona 9'), ('Bantrab', 'Zona 1'), ('Banrural', 'Mixco');"
+        "INSERT INTO Cliente (Nombres, Apellidos, FechaNacimiento, Limite, CodigoNumero) VALUES "
+        "('Ana', 'Muñoz', '1990-05-01', 1500, 1);"));
+    cn_ = Conexion(QStringLiteral("DSN=DSNBrenal"));
+    cn_.Open();
+}
+
+void TstRecordset::cleanup() {
+    abiertos_.clear();
+    cn_ = Conexion();
+    base_.reset();
+}
+
+Recordset* TstRecordset::abrir(const QString& fuente, TipoBloqueo bloqueo) {
+    abiertos_.push_back(std::make_unique<Recordset>());
+    abiertos_.back()->Open(fuente, cn_, adOpenStatic, bloqueo);
+    return abiertos_.back().get();
+}
+
+void TstRecordset::camposPorNombreYPosicion() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Cliente"));
+    QCOMPARE(rs->FieldCount(), 9);
+    QCOMPARE(rs->Fields(QStringLiteral("nombres")).Value().toString(), QStringLiteral("Ana"));
+    QCOMPARE(rs->Fields(QStringLiteral("APELLIDOS")).Value().toString(), QStringLiteral("Muñoz"));
+    QCOMPARE(rs->Fields(4).Name(), QStringLiteral("FechaNacimiento"));
+    QCOMPARE(rs->Fields(4).Value().toDate(), QDate(1990, 5, 1));
+    QCOMPARE(rs->Fields(QStringLiteral("Limite")).Value().toDouble(), 1500.0);
+    QVERIFY(!rs->Fields(QStringLiteral("NIT")).Value().isValid()); // Null
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(QStringLiteral("NoExiste")); }), FalloCampoInexistente);
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(9); }), FalloCampoInexistente);
+}
+
+// A screen that opens on "Where ... < 0" has no row: EOF and BOF are both true and reading a
+// field is a failure.
+void TstRecordset::recordsetVacio() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Banco Where BancoID < 0"));
+    QVERIFY(rs->Eof());
+    QVERIFY(rs->Bof());
+    QCOMPARE(rs->RecordCount(), 0);
+    QCOMPARE(rs->AbsolutePosition(), 0);
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(QStringLiteral("Nombre")).Value(); }), FalloSinRegistroActual);
+    rs->MoveFirst(); // no row to go to, and no failure either
+    QVERIFY(rs->Eof() && rs->Bof());
+    QCOMPARE(numeroDelFallo([&] { rs->MoveNext(); }), FalloSinRegistroActual);
+    QCOMPARE(numeroDelFallo([&] { rs->Update(); }), FalloSinRegistroActual);
+}
+
+void TstRecordset::recorrido() {
+    Recordset* rs = abrir(QStringLiteral("Select BancoID, Nombre From Banco Order By BancoID"));
+    QCOMPARE(rs->RecordCount(), 5);
+    QVERIFY(!rs->Eof() && !rs->Bof());
+    QCOMPARE(rs->Fields(0).Value().toInt(), 1);
+    rs->MoveLast();
+    QCOMPARE(rs->Fields(0).Value().toInt(), 5);
+    rs->MoveNext();
+    QVERIFY(rs->Eof());
+    QCOMPARE(numeroDelFallo([&] { rs->MoveNext(); }), FalloSinRegistroActual);
+    rs->MoveFirst();
+    rs->MovePrevious();
+    QVERIFY(rs->Bof());
+    rs->setAbsolutePosition(3);
+    QCOMPARE(rs->Fields(QStringLiteral("Nombre")).Value().toString(), QStringLiteral("G&T Continental"));
+}
+
+void TstRecordset::buscar_data() {
+    QTest::addColumn<int>("desde"); // 1-based row to search from
+    QTest::addColumn<QString>("criterio");
+    QTest::addColumn<int>("hallada"); // 1-based row found; 0 for the end
+    QTest::newRow("clave") << 1 << "BancoID = 4" << 4;
+    QTest::newRow("clave sin blancos") << 1 << "BancoID=2" << 2;
+    QTest::newRow("clave inexistente llega al final") << 1 << "BancoID = 99" << 0;
+    QTest::newRow("solo hacia adelante") << 4 << "BancoID = 2" << 0;
+    QTest::newRow("desde la fila actual incluida") << 2 << "Nombre = 'Banrural'" << 2;
+    QTest::newRow("la siguiente igual") << 3 << "Nombre = 'banrural'" << 5;
+    QTest::newRow("Like") << 1 << "Nombre Like 'G&T%'" << 3;
+    QTest::newRow("mayor que") << 1 << "BancoID > 3" << 4;
+    QTest::newRow("Null no es igual a nada") << 1 << "Direccion = ''" << 0;
+}
+
+void TstRecordset::buscar() {
+    QFETCH(int, desde);
+    QFETCH(QString, criterio);
+    QFETCH(int, hallada);
+    Recordset* rs = abrir(QStringLiteral("Select * From Banco Order By BancoID"));
+    rs->setAbsolutePosition(desde);
+    rs->Find(criterio);
+    QCOMPARE(rs->AbsolutePosition(), hallada);
+    QCOMPARE(rs->Eof(), hallada == 0);
+}
+
+// Update of a new row writes only what was assigned, so the table's defaults apply, and the key the
+// database gave comes back; Resync brings the whole row.
+void TstRecordset::agregarUsaLosValoresPorDefecto() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Cliente Where ClienteID < 0"));
+    rs->AddNew();
+    QCOMPARE(rs->EditMode(), int(adEditAdd));
+    rs->Fields(QStringLiteral("Nombres")) = QStringLiteral("Luis");
+    rs->Fields(QStringLiteral("Apellidos")) = QStringLiteral("García");
+    rs->Update();
+    QCOMPARE(rs->EditMode(), int(adEditNone));
+    QCOMPARE(rs->Fields(QStringLiteral("ClienteID")).Value().toInt(), 2);
+    QVERIFY(!rs->Fields(QStringLiteral("Activo")).Value().isValid()); // not read back yet
+    rs->Resync();
+    QCOMPARE(rs->Fields(QStringLiteral("Activo")).Value().toInt(), 1);
+    QCOMPARE(rs->Fields(QStringLiteral("ClienteID")).Value().toInt(), 2);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Activo FROM Cliente WHERE Nombres = 'Luis'")),
+             QStringLiteral("1"));
+    QCOMPARE(rs->RecordCount(), 1);
+}
+
+void TstRecordset::conversionAlTipoDeLaColumna_data() {
+    QTest::addColumn<QString>("campo");
+    QTest::addColumn<QVariant>("asignado");
+    QTest::addColumn<QString>("guardado"); // as SQLite holds it; "NULL" for Null
+    QTest::newRow("fecha dia primero") << "FechaNacimiento" << QVariant("22/11/2026") << "2026-11-22";
+    QTest::newRow("fecha de un digito") << "FechaNacimiento" << QVariant("5/1/2026") << "2026-01-05";
+    QTest::newRow("fecha como QDate") << "FechaNacimiento" << QVariant(QDate(2025, 2, 28)) << "2025-02-28";
+    QTest::newRow("fecha vacia es Null") << "FechaNacimiento" << QVariant("") << "NULL";
+    QTest::newRow("numero con miles") << "Limite" << QVariant("1,500.00") << "1500.0";
+    QTest::newRow("numero con blancos") << "Limite" << QVariant(" 22.75 ") << "22.75";
+    QTest::newRow("numero vacio es Null") << "Limite" << QVariant("") << "NULL";
+    QTest::newRow("entero redondea") << "CodigoNumero" << QVariant("12.6") << "13";
+    QTest::newRow("entero desde real") << "CodigoNumero" << QVariant(7.0) << "7";
+    QTest::newRow("logico verdadero") << "Activo" << QVariant(true) << "1";
+    QTest::newRow("logico falso en texto") << "Activo" << QVariant("Falso") << "0";
+    QTest::newRow("texto con comilla") << "Apellidos" << QVariant("D'Angelo") << "D'Angelo";
+    QTest::newRow("texto vacio sigue siendo texto") << "NIT" << QVariant("") << "";
+    QTest::newRow("numero a texto") << "NIT" << QVariant(1234567) << "1234567";
+    QTest::newRow("Null") << "Apellidos" << QVariant() << "NULL";
+}
+
+void TstRecordset::conversionAlTipoDeLaColumna() {
+    QFETCH(QString, campo);
+    QFETCH(QVariant, asignado);
+    QFETCH(QString, guardado);
+    Recordset* rs = abrir(QStringLiteral("Select * From Cliente Where ClienteID = 1"));
+    rs->Fields(campo) = asignado;
+    rs->Update();
+    const QString leido = base_->valor(
+        QStringLiteral("SELECT coalesce(%1, 'NULL') FROM Cliente WHERE ClienteID = 1").arg(campo));
+    QCOMPARE(leido, guardado);
+}
+
+void TstRecordset::valorQueNoCabe_data() {
+    QTest::addColumn<QString>("campo");
+    QTest::addColumn<QString>("asignado");
+    QTest::newRow("fecha imposible") << "FechaNacimiento"
+                                     << "31/02/2026";
+    QTest::newRow("texto en fecha") << "FechaNacimiento"
+                                    << "mañana";
+    QTest::newRow("texto en numero") << "Limite"
+                                     << "mil";
+    QTest::newRow("texto en entero") << "CodigoNumero"
+                                     << "12a";
+}
+
+// A value the column cannot hold is refused at once and leaves the row as it was.
+void TstRecordset::valorQueNoCabe() {
+    QFETCH(QString, campo);
+    QFETCH(QString, asignado);
+    Recordset* rs = abrir(QStringLiteral("Select * From Cliente Where ClienteID = 1"));
+    const QVariant antes = rs->Fields(campo).Value();
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(campo) = asignado; }), FalloValorInvalido);
+    QCOMPARE(rs->Fields(campo).Value(), antes);
+    QCOMPARE(rs->EditMode(), int(adEditNone));
+}
+
+// An Update writes only the fields that changed, so a change another user made meanwhile to a
+// different field survives.
+void TstRecordset::modificarEscribeSoloLoCambiado() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Cliente Where ClienteID = 1"));
+    base_->sqlite(QStringLiteral("UPDATE Cliente SET NIT = '123456-7' WHERE ClienteID = 1"));
+    rs->Fields(QStringLiteral("Nombres")) = QStringLiteral("Ana María");
+    rs->Fields(QStringLiteral("Apellidos")) = QStringLiteral("Muñoz"); // the same value: not written
+    QCOMPARE(rs->EditMode(), int(adEditInProgress));
+    rs->Update();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Nombres || '|' || NIT FROM Cliente WHERE ClienteID = 1")),
+             QStringLiteral("Ana María|123456-7"));
+}
+
+// Two recordsets edit the same row: the second Update finds the row changed and overwrites nothing.
+void TstRecordset::dosEdicionesDeLaMismaFila() {
+    Conexion otra(QStringLiteral("DSNBrenal"));
+    otra.Open();
+    Recordset* uno = abrir(QStringLiteral("Select * From Cliente Where ClienteID = 1"));
+    abiertos_.push_back(std::make_unique<Recordset>());
+    Recordset* dos = abiertos_.back().get();
+    dos->Open(QStringLiteral("Select * From Cliente Where ClienteID = 1"), otra);
+
+    uno->Fields(QStringLiteral("Limite")) = 2000;
+    uno->Update();
+    dos->Fields(QStringLiteral("Limite")) = 3000;
+    QCOMPARE(numeroDelFallo([&] { dos->Update(); }), FalloFilaCambiada);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Limite FROM Cliente WHERE ClienteID = 1")),
+             QStringLiteral("2000.0"));
+    QCOMPARE(dos->EditMode(), int(adEditInProgress)); // the user may cancel
+    dos->CancelUpdate();
+    QCOMPARE(dos->Fields(QStringLiteral("Limite")).Value().toDouble(), 1500.0);
+    dos->Resync();
+    QCOMPARE(dos->Fields(QStringLiteral("Limite")).Value().toDouble(), 2000.0);
+}
+
+void TstRecordset::cancelarAgregado() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Banco Order By BancoID"));
+    rs->setAbsolutePosition(2);
+    rs->AddNew();
+    rs->Fields(QStringLiteral("Nombre")) = QStringLiteral("Banco Azteca");
+    QCOMPARE(rs->RecordCount(), 6);
+    rs->CancelUpdate();
+    QCOMPARE(rs->RecordCount(), 5);
+    QCOMPARE(rs->AbsolutePosition(), 2);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT count(*) FROM Banco")), QStringLiteral("5"));
+}
+
+void TstRecordset::eliminarFilaActual() {
+    Recordset* rs = abrir(QStringLiteral("Select * From Banco Order By BancoID"));
+    rs->setAbsolutePosition(5);
+    rs->Delete();
+    QVERIFY(rs->Eof());
+    QCOMPARE(rs->RecordCount(), 4);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT count(*) FROM Banco WHERE BancoID = 5")),
+             QStringLiteral("0"));
+    rs->MoveFirst();
+    base_->sqlite(QStringLiteral("DELETE FROM Banco WHERE BancoID = 1"));
+    QCOMPARE(numeroDelFallo([&] { rs->Delete(); }), FalloFilaCambiada);
+}
+
+void TstRecordset::soloLectura_data() {
+    QTest::addColumn<QString>("fuente");
+    QTest::addColumn<int>("bloqueo");
+    QTest::newRow("de solo lectura") << "Select * From Banco" << int(adLockReadOnly);
+    QTest::newRow("union") << "Select B.*, C.Nombres From Banco B, Cliente C" << int(adLockOptimistic);
+    QTest::newRow("agrupado") << "Select Nombre, Count(*) as N From Banco Group By Nombre"
+                              << int(adLockOptimistic);
+    QTest::newRow("sin la clave") << "Select Nombre From Banco" << int(adLockOptimistic);
+}
+
+void TstRecordset::soloLectura() {
+    QFETCH(QString, fuente);
+    QFETCH(int, bloqueo);
+    Recordset* rs = abrir(fuente, static_cast<TipoBloqueo>(bloqueo));
+    QVERIFY(!rs->actualizable());
+    QCOMPARE(numeroDelFallo([&] { rs->AddNew(); }), FalloOperacionNoPermitida);
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(0) = QStringLiteral("x"); }), FalloOperacionNoPermitida);
+}
+
+// "Agregar" on a transactional screen: the data control's recordset writes through the shared
+// connection, inside its transaction; Cancelar rolls it back and leaves no row behind.
+void TstRecordset::filaDentroDeLaTransaccionCompartida() {
+    Adodc ado(nullptr);
+    ado.setRecordSource(QStringLiteral("Select * From Banco Where BancoID < 0"));
+    ado.Refresh();
+    Recordset* rs = ado.Recordset();
+    rs->setActiveConnection(cn_);
+    QCOMPARE(cn_.BeginTrans(), 1);
+    rs->AddNew();
+    rs->Fields(QStringLiteral("Nombre")) = QStringLiteral("Banco Azteca");
+    rs->Update();
+    rs->Resync();
+    QCOMPARE(rs->Fields(QStringLiteral("BancoID")).Value().toInt(), 6);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT count(*) FROM Banco")),
+             QStringLiteral("5")); // not committed
+    cn_.RollbackTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT count(*) FROM Banco")), QStringLiteral("5"));
+
+    // A refresh gives the recordset back the data control's own connection.
+    ado.Refresh();
+    QVERIFY(ado.Recordset()->ActiveConnection().mismaQue(ado.conexion()));
+}
+
+void TstRecordset::controlDeDatos() {
+    Adodc ado(nullptr);
+    QSignalSpy fila(&ado, &Adodc::filaActualCambiada);
+    QSignalSpy valores(&ado, &Adodc::valoresCambiados);
+    ado.setRecordSource(QStringLiteral("Select * From Banco Order By Nombre"));
+    ado.Refresh();
+    QCOMPARE(fila.count(), 1);
+    Recordset* rs = ado.Recordset();
+    QCOMPARE(rs->Fields(QStringLiteral("Nombre")).Value().toString(), QStringLiteral("Banco Industrial"));
+    rs->MoveNext();
+    QCOMPARE(fila.count(), 2);
+    const int editado = rs->Fields(QStringLiteral("BancoID")).Value().toInt();
+    rs->Fields(QStringLiteral("Direccion")) = QStringLiteral("Zona 13");
+    QCOMPARE(valores.count(), 1);
+    // Moving off an edited row stores it.
+    rs->MoveNext();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Direccion FROM Banco WHERE BancoID = %1").arg(editado)),
+             QStringLiteral("Zona 13"));
+    ado.setRecordSource(QStringLiteral("Select * From Banco Where BancoID = 3"));
+    ado.Refresh();
+    QCOMPARE(rs, ado.Recordset()); // the same object across refreshes
+    QCOMPARE(rs->RecordCount(), 1);
+}
+
+QTEST_GUILESS_MAIN(TstRecordset)
+#include "tst_recordset.moc"
