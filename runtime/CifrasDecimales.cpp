@@ -22,7 +22,7 @@ void quitarCerosFinales(CifrasDecimales& cifras) {
     if (cifras.digitos.isEmpty()) cifras.posicionPunto = 0;
 }
 
-// Suma uno a la última cifra, propagando el acarreo (9.995 -> 10.00).
+// The carry runs through the nines: 9.995 rounded to 2 places is 10.00.
 void incrementarUltimaCifra(CifrasDecimales& cifras) {
     for (qsizetype i = cifras.digitos.size() - 1; i >= 0; --i) {
         if (cifras.digitos[i] != u'9') {
@@ -38,7 +38,7 @@ void incrementarUltimaCifra(CifrasDecimales& cifras) {
 } // namespace
 
 CifrasDecimales cifrasDe(double numero) {
-    // El texto 'g' de Qt es independiente del locale: "-1.005", "1.5e+20", "1e-05".
+    // Qt's 'g' text ignores the locale, so it is always like "-1.005", "1.5e+20" or "1e-05".
     QString texto = QString::number(numero, 'g', kCifrasSignificativas);
     CifrasDecimales cifras;
     if (texto.startsWith(u'-')) {
@@ -106,7 +106,7 @@ double valorDe(const CifrasDecimales& cifras) {
                               .arg(cifras.negativo ? QStringLiteral("-0") : QStringLiteral("0"))
                               .arg(cifras.digitos)
                               .arg(cifras.posicionPunto);
-    return texto.toDouble(); // QString::toDouble lee siempre con el locale "C"
+    return texto.toDouble(); // QString::toDouble always reads with the C locale
 }
 
 } // namespace runtime::detalle

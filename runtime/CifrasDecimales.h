@@ -1,9 +1,8 @@
 #pragma once
 
-// Uso interno de runtime: un número como sus cifras decimales, tal como se escribe
-// con 15 cifras significativas. Redondear y dar formato sobre estas cifras, y no
-// sobre la aproximación binaria del double, es lo que hace que 1.005 redondee a
-// 1.01 como el usuario espera al ver "1.005" en pantalla.
+// Internal to runtime: a number as its decimal digits, as written with 15 significant digits.
+// Rounding and formatting these digits, not the double's binary approximation, is what makes
+// 1.005 round to 1.01, as a user who sees "1.005" on screen expects.
 
 #include <QString>
 
@@ -11,25 +10,25 @@ namespace runtime::detalle {
 
 struct CifrasDecimales {
     bool negativo = false;
-    QString digitos;       // sin ceros a la izquierda; vacío para el cero
-    int posicionPunto = 0; // cuántas cifras quedan antes del punto (puede ser <= 0)
+    QString digitos;       // no leading zeros; empty for zero
+    int posicionPunto = 0; // digits before the point; may be <= 0
 };
 
-// Las cifras del texto de 15 cifras significativas de un número finito.
+// Finite numbers only.
 CifrasDecimales cifrasDe(double numero);
 
-// Redondeo a 'decimales' posiciones con las mitades lejos del cero.
+// Halves round away from zero.
 CifrasDecimales redondeadas(const CifrasDecimales& cifras, int decimales);
 
 bool esCero(const CifrasDecimales& cifras);
 
-// Las cifras antes del punto, sin ceros a la izquierda ("" para el cero).
+// "" for zero, so the caller decides whether a 0 is shown.
 QString parteEntera(const CifrasDecimales& cifras);
 
-// Las 'decimales' primeras cifras después del punto, completadas con ceros.
+// Padded with zeros to exactly 'decimales' digits.
 QString parteDecimal(const CifrasDecimales& cifras, int decimales);
 
-// Todas las cifras significativas después del punto ("" si no hay).
+// Every significant digit after the point; "" if there are none.
 QString parteDecimalCompleta(const CifrasDecimales& cifras);
 
 double valorDe(const CifrasDecimales& cifras);

@@ -27,7 +27,7 @@ qsizetype finDeLosDigitos(QStringView texto, qsizetype desde) {
     return desde;
 }
 
-// Parte entera con comas de miles, que sólo pueden ir entre cifras ("1,500").
+// Thousands commas count only between digits ("1,500").
 qsizetype finDeEnteraConComas(QStringView texto, qsizetype desde) {
     qsizetype fin = finDeLosDigitos(texto, desde);
     while (fin > desde && fin + 1 < texto.size() && texto[fin] == u',' && esDigito(texto[fin + 1]))
@@ -35,7 +35,7 @@ qsizetype finDeEnteraConComas(QStringView texto, qsizetype desde) {
     return fin;
 }
 
-// El exponente sólo cuenta si le siguen cifras: en "1e" el número es "1".
+// An exponent counts only if digits follow: "1e" reads as 1.
 qsizetype finDelExponente(QStringView texto, qsizetype desde) {
     if (desde >= texto.size() || (texto[desde] != u'e' && texto[desde] != u'E')) return desde;
     qsizetype cursor = desde + 1;
@@ -44,7 +44,7 @@ qsizetype finDelExponente(QStringView texto, qsizetype desde) {
     return fin > cursor ? fin : desde;
 }
 
-// Cuántos caracteres del principio del texto forman un número; 0 si no empieza con uno.
+// 0 when the text does not start with a number.
 qsizetype largoDelNumero(QStringView texto, bool conComasDeMiles) {
     qsizetype fin = (!texto.isEmpty() && esSigno(texto[0])) ? 1 : 0;
     const qsizetype inicioEntera = fin;
@@ -77,7 +77,7 @@ QStringView sinBlancosFinales(QStringView texto) {
 double Val(const QString& texto) {
     const QStringView resto = sinBlancosIniciales(texto);
     const qsizetype largo = largoDelNumero(resto, false);
-    // QString::toDouble lee con el locale "C" y da infinito si el número no cabe.
+    // QString::toDouble reads with the C locale and gives infinity when the number overflows.
     return largo > 0 ? resto.left(largo).toString().toDouble() : 0.0;
 }
 
@@ -86,6 +86,10 @@ double ValNulo(const QVariant& valor) {
     if (valor.typeId() == QMetaType::Bool) return valor.toBool() ? -1.0 : 0.0;
     if (detalle::esNumerico(valor)) return valor.toDouble();
     return Val(TextoDe(valor));
+}
+
+bool EsNulo(const QVariant& valor) {
+    return detalle::esNulo(valor);
 }
 
 double Int(double x) {
@@ -102,7 +106,7 @@ qint32 CLng(double x) {
     const double resto = x - entero;
     const bool enteroImpar = std::fmod(entero, 2.0) != 0.0;
     if (resto > 0.5 || (resto == 0.5 && enteroImpar)) entero += 1.0;
-    // Acotar evita el comportamiento indefinido de convertir un double que no cabe.
+    // Clamping avoids the undefined behaviour of converting a double that does not fit.
     constexpr double minimo = std::numeric_limits<qint32>::min();
     constexpr double maximo = std::numeric_limits<qint32>::max();
     return static_cast<qint32>(std::clamp(entero, minimo, maximo));

@@ -1,37 +1,40 @@
 #pragma once
 
-// Conversiones entre texto, números y valores de la base de datos con el
-// comportamiento de las funciones clásicas de VB (Val, Int, Fix, CLng, IsNumeric,
-// y la lectura de un campo posiblemente Null como `Val(campo & " ")`).
+// Conversions between text, numbers and database values that behave like the classic VB
+// functions (Val, Int, Fix, CLng, IsNumeric, and reading a maybe-Null field as `Val(campo & " ")`).
 
 #include <QString>
 #include <QVariant>
 
 namespace runtime {
 
-// El número más largo al principio del texto (tras espacios y tabuladores), o 0.
-// No depende del idioma del sistema: el punto es siempre el separador decimal.
+// The longest number at the start of the text (after spaces and tabs), or 0. The decimal
+// separator is always the point, whatever the system locale.
 double Val(const QString& texto);
 
-// Un campo que puede venir Null leído como número: Null da 0, True da -1.
+// A field that may be Null, read as a number: Null gives 0, True gives -1.
 double ValNulo(const QVariant& valor);
 
-// El texto de un valor como lo da `valor & ""`: Null da "".
+// The text `valor & ""` gives: Null gives "".
 QString TextoDe(const QVariant& valor);
 
-double Int(double x); // hacia abajo: Int(-2.5) = -3
-double Fix(double x); // hacia el cero: Fix(-2.5) = -2
+// Null or Empty as the program means it: an invalid QVariant, a null one, or an invalid
+// QDate/QDateTime, which Qt 6 does not report as isNull().
+bool EsNulo(const QVariant& valor);
 
-// Al entero más cercano, las mitades al par (2.5 -> 2, 3.5 -> 4).
+double Int(double x); // down: Int(-2.5) = -3
+double Fix(double x); // toward zero: Fix(-2.5) = -2
+
+// Halves go to the even integer, as in VB (2.5 -> 2, 3.5 -> 4).
 qint32 CLng(double x);
 qint32 CLng(const QVariant& valor);
 
-// Redondea con las mitades lejos del cero, decidiendo sobre el número tal como se
-// escribe con 15 cifras significativas: RedondearDecimal(1.005, 2) = 1.01.
+// Halves round away from zero, judged on the number as written with 15 significant digits,
+// so RedondearDecimal(1.005, 2) = 1.01 despite the binary approximation.
 double RedondearDecimal(double x, int decimales);
 
-// IsNumeric de VB para un texto: todo el texto (sin espacios alrededor) es un número,
-// admitiendo comas de miles en la parte entera ("1,500.00").
+// VB's IsNumeric for text: the whole trimmed text must be a number; thousands commas are
+// allowed in the integer part ("1,500.00").
 bool EsNumero(const QString& texto);
 
 } // namespace runtime

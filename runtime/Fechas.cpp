@@ -8,7 +8,7 @@ namespace runtime {
 
 namespace {
 
-// Los años de dos cifras se leen como en VB: 00-29 son 2000-2029, 30-99 son 1930-1999.
+// Two-digit years read as in VB: 00-29 are 2000-2029, 30-99 are 1930-1999.
 constexpr int kPrimerAnioDelSigloVeinte = 30;
 constexpr int kMenorAnioAdmitido = 100;
 
@@ -26,7 +26,7 @@ std::optional<QDate> fechaDelCalendario(int anio, int mes, int dia) {
 } // namespace
 
 std::optional<QDate> LeerFecha(const QString& texto) {
-    // Tres campos con el mismo separador; [0-9] y no \d, que admitiría otras cifras Unicode.
+    // Three fields, one separator; [0-9] because \d would also accept other Unicode digits.
     static const QRegularExpression forma(QStringLiteral("^([0-9]{1,4})([/.-])([0-9]{1,2})\\2([0-9]{1,4})$"));
     const QRegularExpressionMatch partes = forma.match(texto.trimmed());
     if (!partes.hasMatch()) return std::nullopt;
@@ -34,7 +34,7 @@ std::optional<QDate> LeerFecha(const QString& texto) {
     const QString primero = partes.captured(1);
     const int mes = partes.captured(3).toInt();
     const QString ultimo = partes.captured(4);
-    if (primero.size() == 4) { // año primero: ISO
+    if (primero.size() == 4) { // year first: ISO
         if (ultimo.size() > 2) return std::nullopt;
         return fechaDelCalendario(primero.toInt(), mes, ultimo.toInt());
     }

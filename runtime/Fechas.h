@@ -1,7 +1,7 @@
 #pragma once
 
-// Fechas como las escribe y las lee el usuario en Guatemala (día/mes/año), y el
-// único reloj del programa, que las pruebas pueden detener.
+// Dates as users in Guatemala write and read them (day/month/year), and the program's only
+// clock, which tests can stop.
 
 #include <QDate>
 #include <QDateTime>
@@ -11,24 +11,24 @@
 
 namespace runtime {
 
-// "22/11/2026", "5-1-26", "05.01.2026" o ISO "2026-11-22". Lo que no es una fecha
-// del calendario (31/02, 29/02 de un año no bisiesto) no es una fecha.
+// "22/11/2026", "5-1-26", "05.01.2026" or ISO "2026-11-22". Days missing from the calendar
+// (31/02, 29/02 in a non-leap year) are not dates.
 std::optional<QDate> LeerFecha(const QString& texto);
 
 bool EsFecha(const QString& texto);
-bool EsFecha(const QVariant& valor); // QDate/QDateTime válidos, o texto que es fecha
+bool EsFecha(const QVariant& valor); // a valid QDate/QDateTime, or text that is a date
 
-QString TextoFecha(const QDate& fecha); // "dd/mm/yyyy"; "" si la fecha no es válida
+QString TextoFecha(const QDate& fecha); // "dd/mm/yyyy"; "" for an invalid date
 
-// El reloj: todo el programa pregunta la fecha y la hora aquí.
+// The whole program asks for the date and time here, so tests can stop the clock.
 QDate Hoy();
 QDateTime Ahora();
 
-// Detiene el reloj en un instante (para pruebas) y lo devuelve al del sistema.
+// For tests: stop the clock at an instant, and hand it back to the system clock.
 void FijarReloj(const QDateTime& instante);
 void LiberarReloj();
 
-// Detiene el reloj mientras vive el objeto.
+// Keeps the clock stopped while it lives, so a failing test cannot leave it stopped.
 class RelojFijo {
 public:
     explicit RelojFijo(const QDateTime& instante);

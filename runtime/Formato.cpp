@@ -12,7 +12,7 @@ namespace runtime {
 
 namespace {
 
-// Un patrón con posiciones de cifra es numérico aunque lleve letras ("0 días").
+// Digit positions make a pattern numeric even when it has date letters ("0 días").
 bool esFormatoDeFecha(const QString& patron) {
     return !detalle::esPatronNumerico(patron) && detalle::esPatronDeFecha(patron);
 }

@@ -9,7 +9,7 @@ namespace runtime::detalle {
 
 namespace {
 
-// Un código ("dd", "mmmm", "yyyy"...) en minúsculas, o un literal.
+// A code ("dd", "mmmm", "yyyy"...), lowered so case does not matter, or a literal.
 struct PiezaDeFecha {
     QString texto;
     bool esLiteral;
@@ -20,8 +20,8 @@ bool esLetraDeFecha(const CaracterDePatron& c) {
     return !c.escapado && (letra == u'd' || letra == u'm' || letra == u'y');
 }
 
-// Los códigos más largos primero: "mmmmm" es "mmmm" seguido de "m". El año sólo
-// tiene "y", "yy" y "yyyy": "yyy" es "yy" seguido de "y", como en VB.
+// Longest code first: "mmmmm" is "mmmm" then "m". The year has only "y", "yy" and "yyyy", so
+// "yyy" is "yy" then "y", as in VB.
 qsizetype largoDelCodigo(QChar letra, qsizetype repeticiones) {
     if (letra == u'y') return repeticiones >= 4 ? 4 : std::min<qsizetype>(repeticiones, 2);
     return std::min<qsizetype>(repeticiones, 4);
@@ -60,7 +60,7 @@ QString nombreDelDia(const QDate& fecha) {
                                         QStringLiteral("Miércoles"), QStringLiteral("Jueves"),
                                         QStringLiteral("Viernes"),   QStringLiteral("Sábado"),
                                         QStringLiteral("Domingo")};
-    return nombres.at(fecha.dayOfWeek() - 1); // Qt: lunes = 1
+    return nombres.at(fecha.dayOfWeek() - 1); // Qt counts Monday as 1
 }
 
 QString textoDelCodigo(const QString& codigo, const QDate& fecha) {

@@ -7,16 +7,16 @@ namespace runtime::detalle {
 
 namespace {
 
-// Lo que dice un patrón numérico. Los literales (p. ej. "Q ") van delante o detrás
-// del número según aparezcan antes o después de la primera posición de cifra.
+// Literals (e.g. "Q ") go before or after the number depending on whether they come before or
+// after the first digit position.
 struct PatronNumerico {
     QString prefijo;
     QString sufijo;
-    int cifrasEnterasMinimas = 0; // los '0' antes del punto
-    bool separarMiles = false;    // una ',' en la parte entera
+    int cifrasEnterasMinimas = 0; // the '0's before the point
+    bool separarMiles = false;    // a ',' in the integer part
     bool llevaPunto = false;
-    int decimales = 0;             // los '0' y '#' después del punto
-    int decimalesObligatorios = 0; // hasta el último '0' después del punto
+    int decimales = 0;             // the '0's and '#'s after the point
+    int decimalesObligatorios = 0; // up to the last '0' after the point
 };
 
 bool esPosicionDeCifra(QChar c) {
@@ -63,7 +63,7 @@ QString conSeparadorDeMiles(QString entera) {
     return entera;
 }
 
-// Las posiciones '#' al final de los decimales no muestran ceros: "0.0#" da "1.5".
+// Trailing '#' positions show no zeros: 1.5 with "0.0#" gives "1.5".
 QString sinCerosOpcionales(QString decimal, int obligatorios) {
     while (decimal.size() > obligatorios && decimal.endsWith(u'0'))
         decimal.chop(1);
@@ -84,7 +84,7 @@ QString formatearNumero(double valor, const QString& texto) {
 
     QString entera = parteEntera(cifras).rightJustified(patron.cifrasEnterasMinimas, u'0');
     if (patron.separarMiles) entera = conSeparadorDeMiles(entera);
-    // Lo que redondea a cero se muestra sin signo: -0.001 con "0.00" da "0.00".
+    // What rounds to zero shows no sign: -0.001 with "0.00" gives "0.00".
     QString resultado = cifras.negativo ? QStringLiteral("-") : QString();
     resultado += patron.prefijo + entera;
     if (patron.llevaPunto)

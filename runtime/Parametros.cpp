@@ -8,7 +8,7 @@ namespace runtime {
 
 namespace {
 
-// El mensaje del error 9 de VB, que es el que conoce quien mantiene las pantallas.
+// VB's error 9 message, the one the screens' maintainers know.
 constexpr const char* kSubindiceFueraDelIntervalo = "Subíndice fuera del intervalo";
 
 void exigirTamanioValido(int n) {

@@ -1,7 +1,7 @@
 #pragma once
 
-// El arreglo de parámetros que se pasan las pantallas y los diálogos (la variable
-// Parametros del programa): un arreglo de VB de una dimensión, con base 1.
+// The parameters the screens and dialogs pass each other (the program's Parametros variable):
+// a one-dimensional VB array based at 1.
 
 #include <QList>
 #include <QVariant>
@@ -12,20 +12,20 @@ class ArregloVariant {
 public:
     ArregloVariant() = default;
 
-    // ReDim: n elementos vacíos (1..n); n == 0 deja el arreglo sin elementos.
+    // ReDim: n empty elements (1..n); 0 leaves none.
     void ReDim(int n);
-    // ReDim Preserve: conserva los valores hasta n y agrega elementos vacíos.
+    // ReDim Preserve: keeps the values up to n and adds empty elements.
     void ReDimPreserve(int n);
 
     int LBound() const { return 1; }
     int UBound() const { return int(elementos_.size()); }
 
-    // Fuera de 1..UBound lanza std::out_of_range, como el error 9 de VB.
+    // Outside 1..UBound throws std::out_of_range, like VB's error 9.
     QVariant& operator()(int i);
     const QVariant& operator()(int i) const;
 
-    // Si el elemento i no dice nada: Empty, Null o texto "" (el 0 sí dice algo).
-    // Un índice fuera del arreglo también está vacío: sin elementos, nada se eligió.
+    // Whether element i says nothing: Empty, Null or "" (0 does say something). An index outside
+    // the array is empty too: with no elements, nothing was chosen.
     bool Vacio(int i) const;
 
     QVariantList Lista() const { return elementos_; }

@@ -1,7 +1,7 @@
 #pragma once
 
-// Uso interno de runtime: los caracteres de un patrón de Format, distinguiendo los
-// que son literales por escape (\x) o por ir entre comillas ("texto").
+// Internal to runtime: the characters of a Format pattern, marking those made literal by an
+// escape (\x) or by quotes ("text").
 
 #include <QList>
 #include <QString>
@@ -10,7 +10,7 @@ namespace runtime::detalle {
 
 struct CaracterDePatron {
     QChar caracter;
-    bool escapado = false; // literal siempre, aunque sea '0', '#', 'd'...
+    bool escapado = false; // always literal, even '0', '#', 'd'...
 };
 
 QList<CaracterDePatron> caracteresDelPatron(const QString& patron);

@@ -1,4 +1,4 @@
-// El reloj del programa (declarado en Fechas.h). Un solo hilo: basta un estático.
+// The program's clock, declared in Fechas.h. The program has one thread, so a static is enough.
 
 #include "runtime/Fechas.h"
 

@@ -8,7 +8,7 @@ namespace runtime {
 
 namespace {
 
-// El error 5 de VB: un largo negativo o una posición antes del primer carácter.
+// VB's error 5: a negative length or a position before the first character.
 void exigirArgumentoValido(bool valido) {
     if (!valido) throw std::invalid_argument("Argumento o llamada a procedimiento no válida");
 }
@@ -49,7 +49,7 @@ QString LCase(const QString& s) {
     return s.toLower();
 }
 
-// QString::left y right devuelven todo el texto con n negativo: por eso se valida.
+// QString::left and right return the whole text for a negative n, which VB rejects.
 QString Left(const QString& s, int n) {
     exigirArgumentoValido(n >= 0);
     return s.left(n);
@@ -85,7 +85,7 @@ int InStr(int inicio, const QString& s, const QString& buscado) {
     return int(s.indexOf(buscado, inicio - 1, Qt::CaseSensitive)) + 1;
 }
 
-// QString::replace con 'de' vacío insertaría 'a' entre cada letra; VB no cambia nada.
+// QString::replace with an empty 'de' would insert 'a' between every letter; VB changes nothing.
 QString Replace(const QString& s, const QString& de, const QString& a) {
     if (de.isEmpty()) return s;
     return QString(s).replace(de, a, Qt::CaseSensitive);

@@ -1,14 +1,13 @@
 #pragma once
 
-// Las funciones de texto de VB sobre QString. Las posiciones empiezan en 1 y los
-// largos o posiciones imposibles (negativos, inicio 0) lanzan std::invalid_argument,
-// como el error 5 de VB; pasar del final del texto no es un error.
+// VB's text functions on QString. Positions start at 1. Impossible lengths or positions (negative,
+// start 0) throw std::invalid_argument, like VB's error 5; going past the end is not an error.
 
 #include <QString>
 
 namespace runtime {
 
-QString Trim(const QString& s); // sólo espacios, no tabuladores
+QString Trim(const QString& s); // spaces only, not tabs, as in VB
 QString LTrim(const QString& s);
 QString RTrim(const QString& s);
 
@@ -21,14 +20,14 @@ QString Mid(const QString& s, int inicio);
 QString Mid(const QString& s, int inicio, int largo);
 int Len(const QString& s);
 
-// Posición (desde 1) de 'buscado' en 's', o 0. Distingue mayúsculas.
+// 0 when not found. Case-sensitive.
 int InStr(const QString& s, const QString& buscado);
 int InStr(int inicio, const QString& s, const QString& buscado);
 
 QString Replace(const QString& s, const QString& de, const QString& a);
 QString Space(int n);
 
-// Str de VB: un espacio delante de los números no negativos (" 5", "-5").
+// VB's Str: a non-negative number gets a leading space where the sign would go (" 5", "-5").
 QString Str(double numero);
 
 } // namespace runtime

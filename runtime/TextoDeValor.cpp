@@ -1,4 +1,4 @@
-// TextoDe: el texto que da VB al concatenar un valor con "".
+// TextoDe: the text VB gives when a value is concatenated with "".
 
 #include "runtime/CifrasDecimales.h"
 #include "runtime/Conversion.h"
@@ -12,7 +12,7 @@ namespace runtime {
 
 namespace {
 
-// Fuera de este intervalo de magnitudes VB también escribe con exponente ("1E+15").
+// Outside this range of magnitudes VB, too, writes an exponent ("1E+15").
 constexpr int kMayorPosicionSinExponente = 15;
 constexpr int kMenorPosicionSinExponente = -4;
 
@@ -42,7 +42,7 @@ QString textoDeHora(const QTime& hora) {
     return hora.toString(QStringLiteral("hh:mm:ss"));
 }
 
-// La medianoche no se escribe: en VB una fecha sin hora es una fecha a las 00:00.
+// Midnight is not written: in VB a date without a time is a date at 00:00.
 QString textoDeInstante(const QDateTime& instante) {
     const QString fecha = TextoFecha(instante.date());
     const QTime hora = instante.time();

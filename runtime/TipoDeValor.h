@@ -1,23 +1,23 @@
 #pragma once
 
-// Uso interno de runtime: clasificación de los valores que llegan como QVariant
-// (de la base de datos, de los controles o de Parametros).
+// Internal to runtime: classifying the values that arrive as QVariant (from the database, the
+// controls or Parametros).
 
 #include <QVariant>
 
 namespace runtime::detalle {
 
-// Null de la base de datos o Empty de VB. Una fecha inválida también cuenta: Qt 6
-// no la considera isNull(), pero para el programa es una fecha que no está.
+// Database Null or VB Empty. An invalid date counts too: Qt 6 does not report it as isNull(),
+// but to the program it is a missing date.
 bool esNulo(const QVariant& valor);
 
-// Tipos numéricos de C++ (enteros y de coma flotante); bool no cuenta.
+// C++ integer and floating-point types; bool does not count.
 bool esNumerico(const QVariant& valor);
 bool esEntero(const QVariant& valor);
 
 bool esTexto(const QVariant& valor);
 
-// QDate o QDateTime válidos.
+// Text that reads as a date does not count.
 bool esFechaValida(const QVariant& valor);
 
 } // namespace runtime::detalle

@@ -3,5 +3,10 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/build.sh
-echo "Las pantallas llegan con un cambio posterior; mientras tanto, la consola de sentencias sobre DSNBrenal:"
-exec build/tools/cuentacorriente-sql/cuentacorriente-sql "$@"
+cat <<'MSG'
+Sistema de control de cuenta corriente
+Las pantallas llegan con un cambio posterior. Mientras tanto, la consola de sentencias trabaja sobre
+el origen de datos DSNBrenal:
+
+    build/tools/cuentacorriente-sql/cuentacorriente-sql -e "Select * From Banco"
+MSG

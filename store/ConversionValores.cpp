@@ -105,20 +105,13 @@ QVariant comoEntero(const QVariant& v, const QString& campo) {
 
 } // namespace
 
-bool esNulo(const QVariant& v) {
-    if (!v.isValid() || v.isNull()) return true;
-    if (v.typeId() == QMetaType::QDate) return !v.toDate().isValid();
-    if (v.typeId() == QMetaType::QDateTime) return !v.toDateTime().isValid();
-    return false;
-}
-
 QVariant nuloDeTipo(QMetaType::Type tipo) {
     if (tipo == QMetaType::UnknownType) return QVariant(QMetaType::fromType<QString>());
     return QVariant(QMetaType(tipo));
 }
 
 QVariant convertirParaColumna(const QVariant& valor, QMetaType::Type tipo, const QString& campo) {
-    if (esNulo(valor)) return QVariant();
+    if (runtime::EsNulo(valor)) return QVariant();
     const bool textoVacio = esTexto(valor) && valor.toString().trimmed().isEmpty();
     switch (tipo) {
     case QMetaType::QDate:

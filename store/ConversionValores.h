@@ -14,6 +14,4 @@ QVariant convertirParaColumna(const QVariant& valor, QMetaType::Type tipo, const
 // A Null of the column's type, as a bound parameter needs it.
 QVariant nuloDeTipo(QMetaType::Type tipo);
 
-bool esNulo(const QVariant& valor);
-
 } // namespace store

@@ -198,22 +198,28 @@ int Recordset::indiceCampo(const QString& nombre) const {
     return -1;
 }
 
+namespace {
+
+[[noreturn]] void campoInexistente(const QString& nombre) {
+    throw Fallo(
+        FalloCampoInexistente,
+        QStringLiteral("No se encontró el elemento \"%1\" en la colección que corresponde al nombre o al "
+                       "ordinal solicitado.")
+            .arg(nombre));
+}
+
+} // namespace
+
 int Recordset::indiceExigido(const QString& nombre) const {
     exigirAbierto();
     const int i = indiceCampo(nombre);
-    if (i < 0)
-        throw Fallo(
-            FalloCampoInexistente,
-            QStringLiteral("No se encontró el elemento \"%1\" en la colección que corresponde al nombre o al "
-                           "ordinal solicitado.")
-                .arg(nombre));
+    if (i < 0) campoInexistente(nombre);
     return i;
 }
 
 Campo Recordset::Fields(int indice) {
     exigirAbierto();
-    if (indice < 0 || indice >= nombres_.size())
-        return Fields(QString::number(indice)); // reports the missing item
+    if (indice < 0 || indice >= nombres_.size()) campoInexistente(QString::number(indice));
     return Campo(this, indice);
 }
 

@@ -47,7 +47,7 @@ std::optional<QVariant> valorLiteral(const Expr& e) {
 
 // Negative, zero or positive as a is below, equal to or above b; nullopt when they cannot be compared.
 std::optional<int> comparar(const QVariant& a, const QVariant& b) {
-    if (esNulo(a) || esNulo(b)) return std::nullopt;
+    if (runtime::EsNulo(a) || runtime::EsNulo(b)) return std::nullopt;
     const auto comoFecha = [](const QVariant& v) -> std::optional<QDate> {
         if (v.typeId() == QMetaType::QDate) return v.toDate();
         if (v.typeId() == QMetaType::QDateTime) return v.toDateTime().date();
@@ -67,7 +67,7 @@ std::optional<int> comparar(const QVariant& a, const QVariant& b) {
 }
 
 bool parecido(const QVariant& valor, const QString& patron) {
-    if (esNulo(valor)) return false;
+    if (runtime::EsNulo(valor)) return false;
     QString re;
     for (QChar c : patron) {
         if (c == u'%' || c == u'*')

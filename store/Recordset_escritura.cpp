@@ -1,4 +1,5 @@
 // Writing through a recordset: the edit buffer, and the statements that store or remove its row.
+#include "runtime/Conversion.h"
 #include "store/ConversionValores.h"
 #include "store/ErrorBase.h"
 #include "store/Fallo.h"
@@ -106,7 +107,7 @@ void Recordset::insertarFila() {
         if (!asignados_[i]) continue;
         columnas << d.identificador(tabla_->columnas[i]);
         marcas << QStringLiteral("?");
-        valores << (esNulo(filas_[pos_][i]) ? nuloDeTipo(tipos_[i]) : filas_[pos_][i]);
+        valores << (runtime::EsNulo(filas_[pos_][i]) ? nuloDeTipo(tipos_[i]) : filas_[pos_][i]);
     }
     const QString tabla = d.identificador(tabla_->tabla);
     const QString sentencia = columnas.isEmpty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(tabla)
@@ -127,14 +128,14 @@ void Recordset::actualizarFila() {
     QVariantList valores, originales;
     for (int i = 0; i < nombres_.size(); ++i) {
         const QVariant& nuevo = filas_[pos_][i];
-        if (!asignados_[i] || (esNulo(nuevo) && esNulo(original_[i])) ||
-            (!esNulo(nuevo) && nuevo == original_[i]))
+        if (!asignados_[i] || (runtime::EsNulo(nuevo) && runtime::EsNulo(original_[i])) ||
+            (!runtime::EsNulo(nuevo) && nuevo == original_[i]))
             continue;
         const QString columna = d.identificador(tabla_->columnas[i]);
         sets << columna + QStringLiteral(" = ?");
-        valores << (esNulo(nuevo) ? nuloDeTipo(tipos_[i]) : nuevo);
+        valores << (runtime::EsNulo(nuevo) ? nuloDeTipo(tipos_[i]) : nuevo);
         condiciones << d.igualdadSegura(columna);
-        originales << (esNulo(original_[i]) ? nuloDeTipo(tipos_[i]) : original_[i]);
+        originales << (runtime::EsNulo(original_[i]) ? nuloDeTipo(tipos_[i]) : original_[i]);
     }
     if (sets.isEmpty()) return;
     const QString sentencia =

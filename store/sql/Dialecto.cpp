@@ -60,9 +60,16 @@ private:
         QString sql = QStringLiteral("SELECT ");
         if (s.distinto) sql += QStringLiteral("DISTINCT ");
         QStringList elementos;
+        int sinNombre = 0;
         for (const auto& e : s.elementos) {
             QString x = expr(*e.expr);
-            if (!e.alias.isEmpty()) x += QStringLiteral(" AS ") + d_.identificador(e.alias);
+            if (!e.alias.isEmpty()) {
+                x += QStringLiteral(" AS ") + d_.identificador(e.alias);
+            } else if (e.expr->tipo != T::Columna && e.expr->tipo != T::Todas) {
+                // A computed column without a name is called Expr1000, Expr1001, ... rather than
+                // after the database's own text of the expression.
+                x += QStringLiteral(" AS Expr%1").arg(1000 + sinNombre++);
+            }
             elementos << x;
         }
         sql += elementos.join(QStringLiteral(", "));

@@ -6,7 +6,7 @@
 
 using namespace runtime;
 
-// El Null que devuelve una consulta: con tipo, pero nulo.
+// The Null a query returns: typed, but null.
 static QVariant nuloDeBaseDeDatos() {
     return QVariant(QMetaType(QMetaType::Double));
 }
@@ -43,7 +43,7 @@ private slots:
     }
 
     void noDependeDelIdioma() {
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // coma decimal
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // decimal comma
         const double leido = Val(QStringLiteral("1.5"));
         const QString escrito = TextoDe(22.75);
         QLocale::setDefault(QLocale::c());
@@ -98,6 +98,21 @@ private slots:
         QFETCH(QVariant, valor);
         QFETCH(QString, esperado);
         QCOMPARE(TextoDe(valor), esperado);
+    }
+
+    void esNulo_data() {
+        QTest::addColumn<QVariant>("valor");
+        QTest::addColumn<bool>("esperado");
+        QTest::newRow("Empty") << QVariant() << true;
+        QTest::newRow("Null de texto") << QVariant(QMetaType::fromType<QString>()) << true;
+        QTest::newRow("fecha inválida") << QVariant(QDate()) << true;
+        QTest::newRow("texto vacío") << QVariant(QStringLiteral("")) << false;
+        QTest::newRow("cero") << QVariant(0) << false;
+    }
+    void esNulo() {
+        QFETCH(QVariant, valor);
+        QFETCH(bool, esperado);
+        QCOMPARE(EsNulo(valor), esperado);
     }
 
     void enteros_data() {
@@ -156,7 +171,7 @@ private slots:
         QFETCH(int, decimales);
         QFETCH(double, esperado);
         const double resultado = RedondearDecimal(x, decimales);
-        // Igualdad exacta: el resultado debe ser el double del texto decimal esperado.
+        // Exact equality: the result must be the very double the expected decimal text reads as.
         QVERIFY2(resultado == esperado, qPrintable(QString::number(resultado, 'g', 17)));
     }
 

@@ -10,7 +10,7 @@ class TstFechas : public QObject {
 private slots:
     void leerFecha_data() {
         QTest::addColumn<QString>("texto");
-        QTest::addColumn<QDate>("esperado"); // QDate() cuando no es fecha
+        QTest::addColumn<QDate>("esperado"); // QDate() when not a date
         QTest::newRow("día primero") << "22/11/2026" << QDate(2026, 11, 22);
         QTest::newRow("sin ceros") << "5/1/2026" << QDate(2026, 1, 5);
         QTest::newRow("guiones") << "05-01-2026" << QDate(2026, 1, 5);

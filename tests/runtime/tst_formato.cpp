@@ -63,7 +63,7 @@ private slots:
         QTest::addColumn<QVariant>("valor");
         QTest::addColumn<QString>("patron");
         QTest::addColumn<QString>("esperado");
-        const QVariant nulo(QMetaType(QMetaType::Double)); // el Null de una consulta
+        const QVariant nulo(QMetaType(QMetaType::Double)); // the Null a query returns
         const QDate fecha(2026, 11, 22);
         filaValor("Empty", QVariant(), "#,##0.00", "");
         filaValor("Null numérico", nulo, "#0", "");
@@ -90,7 +90,7 @@ private slots:
     void fecha_data() {
         QTest::addColumn<QString>("patron");
         QTest::addColumn<QString>("esperado");
-        // Sobre el lunes 5 de enero de 2026.
+        // Monday 5 January 2026.
         filaFecha("día/mes/año", "dd/mm/yyyy", "05/01/2026");
         filaFecha("MM es mes", "dd/MM/yyyy", "05/01/2026");
         filaFecha("formas cortas", "d/m/yyyy", "5/1/2026");

@@ -21,7 +21,7 @@ private slots:
         const ArregloVariant arreglo;
         QCOMPARE(arreglo.LBound(), 1);
         QCOMPARE(arreglo.UBound(), 0);
-        QVERIFY(arreglo.Vacio(1)); // nada se eligió
+        QVERIFY(arreglo.Vacio(1)); // nothing was chosen
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, arreglo(1));
     }
 

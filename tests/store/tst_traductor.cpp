@@ -55,15 +55,15 @@ void TstTraductor::traduce_data() {
         << "Select A & B + C From T"
         << "SELECT (IFNULL(CASE WHEN typeof(A) = 'real' THEN printf('%.15g', A) ELSE A END, '') || "
            "IFNULL(CASE WHEN typeof((B + C)) = 'real' THEN printf('%.15g', (B + C)) ELSE (B + C) END, '')) "
-           "FROM T";
+           "AS Expr1000 FROM T";
     QTest::newRow("resta antes de concatenar")
         << "Select 'Q.' & Total - Pagado From T"
         << "SELECT ('Q.' || IFNULL(CASE WHEN typeof((Total - Pagado)) = 'real' THEN printf('%.15g', (Total - "
-           "Pagado)) ELSE (Total - Pagado) END, '')) FROM T";
+           "Pagado)) ELSE (Total - Pagado) END, '')) AS Expr1000 FROM T";
     QTest::newRow("concatenacion sin blanco")
         << "Select a & ' '& b From T"
         << "SELECT (IFNULL(CASE WHEN typeof(a) = 'real' THEN printf('%.15g', a) ELSE a END, '') || ' ' || "
-           "IFNULL(CASE WHEN typeof(b) = 'real' THEN printf('%.15g', b) ELSE b END, '')) FROM T";
+           "IFNULL(CASE WHEN typeof(b) = 'real' THEN printf('%.15g', b) ELSE b END, '')) AS Expr1000 FROM T";
     // One-argument IsNull in any letter case.
     QTest::newRow("ISNULL mayusculas")
         << "Select ConceptoID as Codigo, Descripcion From Concepto Where ISNULL(Tipo) Order By 2,1"
@@ -145,7 +145,7 @@ void TstTraductor::traduce_data() {
         << "SELECT * FROM V WHERE ((hidProveedorID = 2) AND ((shw1200_dbl_Total - shw1200_dbl_Cancelado) > "
            "0))";
     QTest::newRow("division real") << "Select 5 / 2 From T"
-                                   << "SELECT (CAST(5 AS REAL) / 2) FROM T";
+                                   << "SELECT (CAST(5 AS REAL) / 2) AS Expr1000 FROM T";
     QTest::newRow("texto con comilla doblada") << "Select * From T Where N = 'D''Angelo'"
                                                << "SELECT * FROM T WHERE (N = 'D''Angelo')";
     QTest::newRow("texto entre comillas dobles") << "Select * From T Where N = \"Caja\""
