@@ -2,6 +2,7 @@
 // and what the dialect's constructs return from a real SQLite database.
 #include "BaseDePrueba.h"
 #include "EsquemaDePrueba.h"
+#include "NumeroDelFallo.h"
 #include "runtime/Conversion.h"
 #include "store/Conexion.h"
 #include "store/Fallo.h"
@@ -25,15 +26,6 @@ QString filas(Conexion& cn, const QString& sentencia) {
         lineas << celdas.join(QLatin1Char('|'));
     }
     return lineas.join(QLatin1Char(';'));
-}
-
-qint32 numeroDelFallo(const std::function<void()>& accion) {
-    try {
-        accion();
-    } catch (const Fallo& f) {
-        return f.numero();
-    }
-    return 0;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The number offered to a new document and the type of a concept.
 #include "BaseDePrueba.h"
 #include "EsquemaDePrueba.h"
+#include "NumeroDelFallo.h"
 #include "store/Fallo.h"
 #include "store/Numeracion.h"
 
@@ -90,22 +91,12 @@ void TstNumeracion::tipoConcepto() {
 }
 
 void TstNumeracion::conceptoInexistente() {
-    try {
-        TipoConcepto(cn_, 99);
-        QFAIL("a concept that does not exist has no type");
-    } catch (const Fallo& f) {
-        QCOMPARE(f.numero(), FalloSinRegistroActual);
-    }
+    QCOMPARE(numeroDelFallo([&] { TipoConcepto(cn_, 99); }), FalloSinRegistroActual);
 }
 
 void TstNumeracion::tipoConceptoNoReabre() {
     cn_.Close();
-    try {
-        TipoConcepto(cn_, 1);
-        QFAIL("read a concept on a closed connection");
-    } catch (const Fallo& f) {
-        QCOMPARE(f.numero(), FalloObjetoCerrado);
-    }
+    QCOMPARE(numeroDelFallo([&] { TipoConcepto(cn_, 1); }), FalloObjetoCerrado);
     QCOMPARE(cn_.State(), int(adStateClosed));
 }
 

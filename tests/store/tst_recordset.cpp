@@ -2,6 +2,7 @@
 // column's type, the table's defaults and optimistic concurrency.
 #include "BaseDePrueba.h"
 #include "EsquemaDePrueba.h"
+#include "NumeroDelFallo.h"
 #include "store/Adodc.h"
 #include "store/Conexion.h"
 #include "store/Fallo.h"
@@ -12,18 +13,7 @@
 
 using namespace store;
 
-namespace {
-
-qint32 numeroDelFallo(const std::function<void()>& accion) {
-    try {
-        accion();
-    } catch (const Fallo& f) {
-        return f.numero();
-    }
-    return 0;
-}
-
-} // namespace
+namespace {} // namespace
 
 class TstRecordset : public QObject {
     Q_OBJECT
