@@ -26,6 +26,8 @@ private Q_SLOTS:
     void buscar_data();
     void buscar();
     void agregarUsaLosValoresPorDefecto();
+    void fuentesEditables_data();
+    void fuentesEditables();
     void conversionAlTipoDeLaColumna_data();
     void conversionAlTipoDeLaColumna();
     void valorQueNoCabe_data();
@@ -160,6 +162,36 @@ void TstRecordset::agregarUsaLosValoresPorDefecto() {
     QCOMPARE(base_->valor(QStringLiteral("SELECT Activo FROM Cliente WHERE Nombres = 'Luis'")),
              QStringLiteral("1"));
     QCOMPARE(rs->RecordCount(), 1);
+}
+
+// One table, with or without an alias, is enough to write a row back; a computed field is read only.
+void TstRecordset::fuentesEditables_data() {
+    QTest::addColumn<QString>("fuente");
+    QTest::addColumn<QString>("campo");
+    QTest::newRow("tabla") << "Select * From Banco Where BancoID < 0"
+                           << "Nombre";
+    QTest::newRow("alias y asterisco") << "Select B.* From Banco B Where B.BancoID < 0"
+                                       << "Nombre";
+    QTest::newRow("columnas con alias")
+        << "Select B.BancoID, B.Nombre as Banco, B.Nombre & '' as Calculado From Banco B "
+           "Where B.BancoID < 0"
+        << "Banco";
+}
+
+void TstRecordset::fuentesEditables() {
+    QFETCH(QString, fuente);
+    QFETCH(QString, campo);
+    Recordset* rs = abrir(fuente);
+    QVERIFY(rs->actualizable());
+    rs->AddNew();
+    rs->Fields(campo) = QStringLiteral("Banco Azteca");
+    rs->Update();
+    QCOMPARE(rs->Fields(0).Value().toInt(), 6);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Nombre FROM Banco WHERE BancoID = 6")),
+             QStringLiteral("Banco Azteca"));
+    if (rs->indiceCampo(QStringLiteral("Calculado")) >= 0)
+        QCOMPARE(numeroDelFallo([&] { rs->Fields(QStringLiteral("Calculado")) = QStringLiteral("x"); }),
+                 FalloOperacionNoPermitida);
 }
 
 void TstRecordset::conversionAlTipoDeLaColumna_data() {
