@@ -138,12 +138,17 @@ private:
         return sql + QStringLiteral(" VALUES (") + valores.join(QStringLiteral(", ")) + QLatin1Char(')');
     }
 
-    QString actualizar(const Sentencia& s) {
+    // An Update or a Delete names one table, perhaps with an alias.
+    void entrarEnTabla(const Sentencia& s) {
         Ambito ambito;
         ambito.tablaUnica = s.tabla;
         ambito.tablaPorAlias.insert(s.tabla.toLower(), s.tabla);
         if (!s.aliasTabla.isEmpty()) ambito.tablaPorAlias.insert(s.aliasTabla.toLower(), s.tabla);
         ambitos_.push_back(ambito);
+    }
+
+    QString actualizar(const Sentencia& s) {
+        entrarEnTabla(s);
         QStringList sets;
         for (const auto& a : s.asignaciones)
             sets << d_.identificador(a.columna) + QStringLiteral(" = ") +
@@ -156,11 +161,7 @@ private:
     }
 
     QString borrar(const Sentencia& s) {
-        Ambito ambito;
-        ambito.tablaUnica = s.tabla;
-        ambito.tablaPorAlias.insert(s.tabla.toLower(), s.tabla);
-        if (!s.aliasTabla.isEmpty()) ambito.tablaPorAlias.insert(s.aliasTabla.toLower(), s.tabla);
-        ambitos_.push_back(ambito);
+        entrarEnTabla(s);
         QString sql = QStringLiteral("DELETE FROM ") + d_.identificador(s.tabla) + alias(s.aliasTabla);
         if (s.donde) sql += QStringLiteral(" WHERE ") + expr(*s.donde);
         ambitos_.pop_back();
@@ -288,7 +289,7 @@ private:
         const Expr& b = *e.hijos[1];
         if (op == u"/") return entreParentesis(d_.comoReal(expr(a)) + QStringLiteral(" / ") + expr(b));
         if (op == u"\\")
-            return QStringLiteral("CAST(ROUND(%1) AS INTEGER) / CAST(ROUND(%2) AS INTEGER)")
+            return QStringLiteral("(CAST(ROUND(%1) AS INTEGER) / CAST(ROUND(%2) AS INTEGER))")
                 .arg(expr(a), expr(b));
         if (op == u"Mod") return entreParentesis(expr(a) + QStringLiteral(" % ") + expr(b));
         if (op == u"^") return QStringLiteral("POWER(%1, %2)").arg(expr(a), expr(b));

@@ -4,6 +4,8 @@
 #include "store/Fallo.h"
 #include "store/sql/Lexer.h"
 
+#include <cctype>
+
 namespace store::sql {
 namespace {
 
@@ -288,24 +290,35 @@ private:
 
     ExprPtr expresion() { return disyuncion(); }
 
-    ExprPtr disyuncion() {
-        ExprPtr e = conjuncion();
+    // One level of left-associative operators, each a symbol or a word; the operator keeps the
+    // dialect's spelling ("+", "Mod", "And").
+    using Nivel = ExprPtr (Analizador::*)();
+
+    ExprPtr izquierda(std::initializer_list<const char*> operadores, Nivel siguiente) {
+        ExprPtr e = (this->*siguiente)();
         while (true) {
-            if (palabra("or"))
-                e = binario(QStringLiteral("Or"), std::move(e), conjuncion());
-            else if (palabra("xor"))
-                e = binario(QStringLiteral("Xor"), std::move(e), conjuncion());
-            else
-                return e;
+            const char* hallado = nullptr;
+            for (const char* op : operadores) {
+                if (std::isalpha(static_cast<unsigned char>(op[0])) ? palabra(op) : simbolo(op)) {
+                    hallado = op;
+                    break;
+                }
+            }
+            if (!hallado) return e;
+            QString nombre = QLatin1String(hallado);
+            nombre[0] = nombre[0].toUpper();
+            e = binario(nombre, std::move(e), (this->*siguiente)());
         }
     }
 
-    ExprPtr conjuncion() {
-        ExprPtr e = negacion();
-        while (palabra("and"))
-            e = binario(QStringLiteral("And"), std::move(e), negacion());
-        return e;
-    }
+    ExprPtr disyuncion() { return izquierda({"or", "xor"}, &Analizador::conjuncion); }
+    ExprPtr conjuncion() { return izquierda({"and"}, &Analizador::negacion); }
+    ExprPtr concatenacion() { return izquierda({"&"}, &Analizador::suma); }
+    ExprPtr suma() { return izquierda({"+", "-"}, &Analizador::modulo); }
+    ExprPtr modulo() { return izquierda({"mod"}, &Analizador::divisionEntera); }
+    ExprPtr divisionEntera() { return izquierda({"\\"}, &Analizador::producto); }
+    ExprPtr producto() { return izquierda({"*", "/"}, &Analizador::unario); }
+    ExprPtr potencia() { return izquierda({"^"}, &Analizador::primario); }
 
     ExprPtr negacion() {
         if (palabra("not")) {
@@ -376,51 +389,6 @@ private:
         return e;
     }
 
-    ExprPtr concatenacion() {
-        ExprPtr e = suma();
-        while (simbolo("&"))
-            e = binario(QStringLiteral("&"), std::move(e), suma());
-        return e;
-    }
-
-    ExprPtr suma() {
-        ExprPtr e = modulo();
-        while (true) {
-            if (simbolo("+"))
-                e = binario(QStringLiteral("+"), std::move(e), modulo());
-            else if (simbolo("-"))
-                e = binario(QStringLiteral("-"), std::move(e), modulo());
-            else
-                return e;
-        }
-    }
-
-    ExprPtr modulo() {
-        ExprPtr e = divisionEntera();
-        while (palabra("mod"))
-            e = binario(QStringLiteral("Mod"), std::move(e), divisionEntera());
-        return e;
-    }
-
-    ExprPtr divisionEntera() {
-        ExprPtr e = producto();
-        while (simbolo("\\"))
-            e = binario(QStringLiteral("\\"), std::move(e), producto());
-        return e;
-    }
-
-    ExprPtr producto() {
-        ExprPtr e = unario();
-        while (true) {
-            if (simbolo("*"))
-                e = binario(QStringLiteral("*"), std::move(e), unario());
-            else if (simbolo("/"))
-                e = binario(QStringLiteral("/"), std::move(e), unario());
-            else
-                return e;
-        }
-    }
-
     ExprPtr unario() {
         if (simbolo("-")) {
             auto e = Expr::crear(T::Unario, QStringLiteral("-"));
@@ -429,13 +397,6 @@ private:
         }
         if (simbolo("+")) return unario();
         return potencia();
-    }
-
-    ExprPtr potencia() {
-        ExprPtr e = primario();
-        while (simbolo("^"))
-            e = binario(QStringLiteral("^"), std::move(e), primario());
-        return e;
     }
 
     ExprPtr primario() {

@@ -164,6 +164,9 @@ void TstTraductor::traduce_data() {
            "FROM U)))";
     QTest::newRow("columna sola como condicion") << "Select * From vwBuscaRecibo Where shw1200_dat_Fecha"
                                                  << "SELECT * FROM vwBuscaRecibo WHERE shw1200_dat_Fecha";
+    QTest::newRow("precedencia aritmetica") << "Select a + b * c Mod 2 - d \\ 2 From T"
+                                            << "SELECT ((a + ((b * c) % 2)) - (CAST(ROUND(d) AS INTEGER) / "
+                                               "CAST(ROUND(2) AS INTEGER))) AS Expr1000 FROM T";
     QTest::newRow("precedencia And Or Not")
         << "Select * From T Where Not a = 1 Or b = 2 And c = 3"
         << "SELECT * FROM T WHERE ((NOT (a = 1)) OR ((b = 2) AND (c = 3)))";
