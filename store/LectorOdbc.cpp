@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QDateTime>
 #include <QSqlResult>
+#include <cmath>
 #include <sql.h>
 #include <sqlext.h>
 
@@ -85,15 +86,19 @@ QVariant leerTexto(SQLHSTMT h, SQLUSMALLINT columna) {
 
 QVariant leerCelda(SQLHSTMT h, SQLUSMALLINT columna, QMetaType::Type tipo) {
     switch (tipo) {
-    case QMetaType::LongLong: {
-        SQLBIGINT v = 0;
-        return leerFijo(h, columna, SQL_C_SBIGINT, v) ? QVariant::fromValue<qlonglong>(v) : QVariant();
+    case QMetaType::LongLong:
+    case QMetaType::Int: {
+        // Read as a double: the SQLite driver types a computed column from its first row, so an
+        // "integer" column may hold 22.75 further down, which an integer read would cut to 22.
+        SQLDOUBLE v = 0;
+        if (!leerFijo(h, columna, SQL_C_DOUBLE, v)) return QVariant();
+        if (v != std::trunc(v) || std::abs(v) > 9.0e15) return v;
+        if (tipo == QMetaType::Int && std::abs(v) <= 2147483647.0) return static_cast<int>(v);
+        return QVariant::fromValue<qlonglong>(static_cast<qlonglong>(v));
     }
-    case QMetaType::Int:
     case QMetaType::Bool: {
         SQLINTEGER v = 0;
-        if (!leerFijo(h, columna, SQL_C_SLONG, v)) return QVariant();
-        return tipo == QMetaType::Bool ? QVariant(v != 0) : QVariant(static_cast<int>(v));
+        return leerFijo(h, columna, SQL_C_SLONG, v) ? QVariant(v != 0) : QVariant();
     }
     case QMetaType::Double: {
         SQLDOUBLE v = 0;

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void camposPorNombreYPosicion();
     void recordsetVacio();
     void recorrido();
+    void columnaCalculadaTipadaPorSuPrimeraFila();
     void buscar_data();
     void buscar();
     void agregarUsaLosValoresPorDefecto();
@@ -116,6 +117,16 @@ void TstRecordset::recorrido() {
     QVERIFY(rs->Bof());
     rs->setAbsolutePosition(3);
     QCOMPARE(rs->Fields(QStringLiteral("Nombre")).Value().toString(), QStringLiteral("G&T Continental"));
+}
+
+// The SQLite driver types a computed column from its first row: a 0 there must not turn a later
+// 22.75 into 22.
+void TstRecordset::columnaCalculadaTipadaPorSuPrimeraFila() {
+    Recordset* rs =
+        abrir(QStringLiteral("Select BancoID, IIf(BancoID = 1, 0, 22.75) as Monto From Banco Order By 1"));
+    QCOMPARE(rs->Fields(QStringLiteral("Monto")).Value().toDouble(), 0.0);
+    rs->MoveNext();
+    QCOMPARE(rs->Fields(QStringLiteral("Monto")).Value().toDouble(), 22.75);
 }
 
 void TstRecordset::buscar_data() {
