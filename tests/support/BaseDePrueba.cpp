@@ -80,10 +80,17 @@ void BaseDePrueba::escribirConfiguracionOdbc() const {
 }
 
 void BaseDePrueba::sqlite(const QString& script) const {
+    const QString error = intentar(script);
+    if (!error.isEmpty()) qFatal("sqlite: %s\n%s", qPrintable(error), qPrintable(script));
+}
+
+QString BaseDePrueba::intentar(const QString& script) const {
     Sqlite s(archivo());
     char* error = nullptr;
-    if (sqlite3_exec(s.db, script.toUtf8().constData(), nullptr, nullptr, &error) != SQLITE_OK)
-        qFatal("sqlite: %s\n%s", error, qPrintable(script));
+    if (sqlite3_exec(s.db, script.toUtf8().constData(), nullptr, nullptr, &error) == SQLITE_OK) return {};
+    const QString mensaje = QString::fromUtf8(error);
+    sqlite3_free(error);
+    return mensaje;
 }
 
 QString BaseDePrueba::valor(const QString& consulta) const {

@@ -21,6 +21,8 @@ public:
     // Runs one or more statements of SQLite's own SQL straight on the file (no ODBC, no translation):
     // the set-up of a test. Fails the test binary (qFatal) on an error.
     void sqlite(const QString& script) const;
+    // The same, for a script that may be refused: SQLite's message, or "" when it ran.
+    QString intentar(const QString& script) const;
     // One value read straight from the file, as text ("" for Null): a check that bypasses the store.
     QString valor(const QString& consulta) const;
 
