@@ -19,6 +19,8 @@ private Q_SLOTS:
     void documentoPorPagarAbonaUnaNota();
     void notaPagadaNoSePuedeBorrar();
     void posicionesQueLeenLosLlamadores();
+    void filtrosDeLaBusqueda_data();
+    void filtrosDeLaBusqueda();
     void personasDesactivadasNoSeOfrecen_data();
     void personasDesactivadasNoSeOfrecen();
 
@@ -293,6 +295,32 @@ void TstMercaderia::posicionesQueLeenLosLlamadores() {
     QCOMPARE(notas.size(), 1);
     QCOMPARE(notas[0][2].toDate(), QDate(2026, 11, 23));
     QCOMPARE(notas[0].mid(3, 7), (QVariantList{0, 0, factura, 4, 0, 0, "ANA"}));
+}
+
+void TstMercaderia::filtrosDeLaBusqueda_data() {
+    QTest::addColumn<QString>("sentencia");
+    QTest::addColumn<int>("filas");
+    const QString recibos = "Select * From vwBuscaRecibo Where ";
+    QTest::newRow("texto contiene, en minusculas") << recibos + "shw3000_str_Nombre Like '%gómez%'" << 1;
+    QTest::newRow("texto que no esta") << recibos + "shw3000_str_Nombre Like '%PEREZ%'" << 0;
+    QTest::newRow("fecha") << recibos + "shw1100_dat_Fecha = #22/11/2026#" << 1;
+    QTest::newRow("otra fecha") << recibos + "shw1100_dat_Fecha = #23/11/2026#" << 0;
+    QTest::newRow("fecha mal escrita: la columna sola") << recibos + "shw1100_dat_Fecha" << 1;
+    QTest::newRow("numero") << recibos + "shw1000_int_Recibo = 5" << 1;
+    QTest::newRow("dos filtros") << recibos + "shw1000_int_Recibo = 5 And shw680_str_Codigo Like '%G3%'" << 1;
+    QTest::newRow("existencia cero") << "Select * From vwBuscaArticulo Where shw1000_dbl_Existencia = 0" << 2;
+    QTest::newRow("con un Where del llamador")
+        << "Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo <= 0 And shw800_str_Estado Like '%pend%'"
+        << 1;
+}
+
+// The conditions the search screen composes from its filter boxes, on the columns of the views.
+void TstMercaderia::filtrosDeLaBusqueda() {
+    QFETCH(QString, sentencia);
+    QFETCH(int, filas);
+    tienda_->agregar("Recibo", {{"NumeroRecibo", 5}, {"Fecha", "22/11/2026"}, {"ClienteID", cliente_}});
+    tienda_->agregar("Solicitud", {{"NumeroSolicitud", 1}, {"ClienteID", cliente_}});
+    QCOMPARE(tienda_->filas(sentencia).size(), filas);
 }
 
 void TstMercaderia::personasDesactivadasNoSeOfrecen_data() {
