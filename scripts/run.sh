@@ -1,8 +1,28 @@
 #!/usr/bin/env bash
 # Builds the project (installing its packages first) and starts it on DSNBrenal.
+# The first run creates the store's database and registers DSNBrenal; with --demo that new database
+# holds the sample store. An existing database is never touched.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+
+demo=()
+for arg in "$@"; do
+    case "$arg" in
+        --demo) demo=(--demo) ;;
+        *) echo "Uso: bash scripts/run.sh [--demo]" >&2; exit 1 ;;
+    esac
+done
+
 scripts/build.sh
+
+db=build/tools/cuentacorriente-db/cuentacorriente-db
+if ! "$db" status >/dev/null 2>&1; then
+    "$db" init "${demo[@]}"
+elif [ "${#demo[@]}" -gt 0 ]; then
+    echo "DSNBrenal ya tiene su base de datos; los datos de ejemplo solo se cargan en una base nueva."
+fi
+"$db" status
+echo
 cat <<'MSG'
 Sistema de control de cuenta corriente
 Las pantallas llegan con un cambio posterior. Mientras tanto, la consola de sentencias trabaja sobre

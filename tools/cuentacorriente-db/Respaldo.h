@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace basedatos {
+
+struct Respaldo {
+    int paginas = 0;
+    qint64 bytes = 0;
+};
+
+// Copies the database `origen` to the new file `destino` with SQLite's online backup, so the copy is
+// one consistent moment of it even while the application writes. Refuses (Error) an existing
+// `destino` and a source that is not one of our databases; a failed copy leaves no file behind.
+Respaldo respaldar(const QString& origen, const QString& destino);
+
+} // namespace basedatos
