@@ -95,6 +95,10 @@ void TstEsquema::valoresPorOmision_data() {
     const QVariantMap deSolicitud{{"NumeroNota", 1}, {"SolicitudID", 5}};
     QTest::newRow("NotaEnvio.FacturaID") << "NotaEnvio" << deSolicitud << "FacturaID" << 0;
     QTest::newRow("NotaEnvio.ReciboID") << "NotaEnvio" << deSolicitud << "ReciboID" << 0;
+    QTest::newRow("FacturaDetalle.ArticuloID de un concepto")
+        << "FacturaDetalle" << QVariantMap{{"FacturaID", 1}, {"ConceptoID", 5}} << "ArticuloID" << 0;
+    QTest::newRow("FacturaDetalle.ConceptoID de un articulo")
+        << "FacturaDetalle" << QVariantMap{{"FacturaID", 1}, {"ArticuloID", 5}} << "ConceptoID" << 0;
     QTest::newRow("NotaEnvio.SolicitudID")
         << "NotaEnvio" << QVariantMap{{"NumeroNota", 1}, {"FacturaID", 5}} << "SolicitudID" << 0;
 }

@@ -29,6 +29,35 @@ struct Sqlite {
     sqlite3* db = nullptr;
 };
 
+QString ejecutarEn(const QString& archivo, const QString& script) {
+    Sqlite s(archivo);
+    char* error = nullptr;
+    if (sqlite3_exec(s.db, script.toUtf8().constData(), nullptr, nullptr, &error) == SQLITE_OK) return {};
+    const QString mensaje = QString::fromUtf8(error);
+    sqlite3_free(error);
+    return mensaje;
+}
+
+// The schema is built once per test program into a template file; every database then starts as a
+// copy of it, which keeps a test of many cases quick.
+QString plantillaConEsquema() {
+    static QTemporaryDir dir;
+    static const QString archivo = [] {
+        const QString plantilla = dir.filePath(QStringLiteral("plantilla.db"));
+        QString script = QStringLiteral("PRAGMA journal_mode = WAL;");
+        const QDir carpeta(BaseDePrueba::rutaEsquema());
+        for (const QString& nombre : carpeta.entryList({QStringLiteral("*.sql")}, QDir::Files, QDir::Name)) {
+            QFile f(carpeta.filePath(nombre));
+            if (!f.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(f.fileName()));
+            script += QString::fromUtf8(f.readAll());
+        }
+        if (const QString error = ejecutarEn(plantilla, script); !error.isEmpty())
+            qFatal("schema: %s", qPrintable(error));
+        return plantilla;
+    }();
+    return archivo;
+}
+
 } // namespace
 
 BaseDePrueba::BaseDePrueba(bool esquema) {
@@ -40,15 +69,8 @@ BaseDePrueba::BaseDePrueba(bool esquema) {
     qputenv("ODBCSYSINI", QFile::encodeName(dir_.path()));
     qputenv("ODBCINI", QFile::encodeName(dir_.filePath(QStringLiteral("odbc.ini"))));
     qputenv("HOME", QFile::encodeName(dir_.path()));
+    if (esquema && !QFile::copy(plantillaConEsquema(), archivo())) qFatal("cannot copy the schema template");
     sqlite(QStringLiteral("PRAGMA journal_mode = WAL;"));
-    if (esquema) {
-        const QDir carpeta(rutaEsquema());
-        for (const QString& nombre : carpeta.entryList({QStringLiteral("*.sql")}, QDir::Files, QDir::Name)) {
-            QFile f(carpeta.filePath(nombre));
-            if (!f.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(f.fileName()));
-            sqlite(QString::fromUtf8(f.readAll()));
-        }
-    }
 }
 
 BaseDePrueba::~BaseDePrueba() {
@@ -85,12 +107,7 @@ void BaseDePrueba::sqlite(const QString& script) const {
 }
 
 QString BaseDePrueba::intentar(const QString& script) const {
-    Sqlite s(archivo());
-    char* error = nullptr;
-    if (sqlite3_exec(s.db, script.toUtf8().constData(), nullptr, nullptr, &error) == SQLITE_OK) return {};
-    const QString mensaje = QString::fromUtf8(error);
-    sqlite3_free(error);
-    return mensaje;
+    return ejecutarEn(archivo(), script);
 }
 
 QString BaseDePrueba::valor(const QString& consulta) const {
