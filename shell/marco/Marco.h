@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/marco/Formulario.h"
+#include "shell/marco/TiraTitulo.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QList>
+#include <QPushButton>
+
+namespace shell {
+
+// The chrome every screen and dialog wears: the title strip lblTitulo with its close box cmdClose,
+// the working frame fraMain, the bar fraBarra along the foot with its buttons cmdBoton(i) and the
+// mode word lblEstado. Lengths in twips; each control's objectName is its given name.
+class Marco : public Formulario {
+    Q_OBJECT
+public:
+    Marco(const QString& titulo, double ancho, double alto, QWidget* parent = nullptr);
+
+    TiraTitulo* lblTitulo;
+    QPushButton* cmdClose;
+    QFrame* fraMain;
+    QFrame* fraBarra;
+    QLabel* lblEstado;
+    QList<QPushButton*> cmdBoton; // by index; the bar's handler dispatches on the caption
+
+    static const QColor kColorBarra; // 216,212,208
+
+    // The standard layout, in this order: title and close box across the top, the bar along the foot,
+    // the mode word at its right, fraMain filling the rest (disabled), the bar's colours.
+    void AjustarPantalla();
+
+protected:
+    // A button of the bar, 1,200 x 375 twips, 120 from the bar's top, with the icon of its caption.
+    QPushButton* crearBoton(int indice, const QString& caption, double left, bool visible = true,
+                            double ancho = 1200);
+    // A caption of lblFieldLabel in fraMain.
+    QLabel* etiqueta(const QString& texto, double left, double top, double ancho = 800);
+    // A control placed in fraMain.
+    template <class T>
+    T* campo(const QString& nombre, double left, double top, double ancho, double alto = 285) {
+        auto* c = new T(fraMain);
+        c->setObjectName(nombre);
+        colocarEn(c, left, top, ancho, alto);
+        return c;
+    }
+
+    virtual void cmdBoton_Click(int Index) { Q_UNUSED(Index); }
+    virtual void cmdClose_Click() { Unload(); }
+
+private:
+    static void colocarEn(QWidget* c, double left, double top, double ancho, double alto);
+    int etiquetas_ = 0;
+};
+
+} // namespace shell

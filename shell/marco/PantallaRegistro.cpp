@@ -1,0 +1,38 @@
+#include "shell/marco/PantallaRegistro.h"
+
+namespace shell {
+
+const QStringList PantallaRegistro::kCaptions = {QStringLiteral("Buscar"),    QStringLiteral("Agregar"),
+                                                 QStringLiteral("Modificar"), QStringLiteral("Eliminar"),
+                                                 QStringLiteral("Imprimir"),  QStringLiteral("Guardar"),
+                                                 QStringLiteral("Cancelar")};
+
+PantallaRegistro::PantallaRegistro(const QString& titulo, double ancho, double alto, QWidget* parent)
+    : Marco(titulo, ancho, alto, parent) {
+    static const double lefts[] = {120, 1440, 2760, 4080, 5400, 120, 1440};
+    for (int i = 0; i < kCaptions.size(); ++i)
+        crearBoton(i, kCaptions[i], lefts[i], i < 5);
+    setKeyPreview(true);
+}
+
+void PantallaRegistro::ModoEdicion(const QString& estado) {
+    lblEstado->setText(estado);
+    lblEstado->show();
+    for (QPushButton* b : cmdBoton)
+        b->hide();
+    cmdBoton[5]->show();
+    cmdBoton[6]->show();
+    fraMain->setEnabled(true);
+}
+
+void PantallaRegistro::ModoConsulta() {
+    Agregando = false;
+    lblEstado->hide();
+    for (QPushButton* b : cmdBoton)
+        b->show();
+    cmdBoton[5]->hide();
+    cmdBoton[6]->hide();
+    fraMain->setEnabled(false);
+}
+
+} // namespace shell

@@ -1,0 +1,71 @@
+#include "EntornoDePantallas.h"
+
+#include "shell/marco/Marco.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QtTest>
+
+EntornoDePantallas::EntornoDePantallas() {
+    Common::ColorTituloFondo = QColor(0, 0, 128);
+    Common::ColorTituloTexto = QColor(255, 255, 255);
+    Common::ColorInactivoFondo = QColor(128, 128, 128);
+    Common::ColorInactivoTexto = QColor(224, 224, 224);
+    Common::TransaccionActiva = 0;
+    Common::IDSeleccionado = 0;
+    Common::TextoSeleccionado.clear();
+    Common::ConsultaBusqueda.clear();
+    Common::ClienteAbrir = 0;
+    Common::RespuestaDialogo = QStringLiteral("Cancelar");
+    Common::Parametros.ReDim(1);
+    Common::LineaNueva = false;
+    Common::InstalarConductorModal([this](shell::Formulario& pantalla) {
+        modalesMostradas << pantalla.objectName();
+        const auto* titulo = pantalla.findChild<QLabel*>(QStringLiteral("lblTitulo"));
+        titulosModales << (titulo ? titulo->text().trimmed() : QString());
+        if (acciones_.isEmpty()) {
+            ++modalesSinAccion;
+            pantalla.Unload();
+            return;
+        }
+        const Accion accion = acciones_.takeFirst();
+        accion(pantalla);
+    });
+    Common::InstalarGanchoFatal([this](const store::Fallo& f) { fallos << f; });
+    Common::InstalarGanchoTerminar([this] { ++terminaciones; });
+}
+
+EntornoDePantallas::~EntornoDePantallas() {
+    cerrarPantallas();
+    Common::InstalarConductorModal({});
+    Common::InstalarGanchoFatal({});
+    Common::InstalarGanchoTerminar({});
+}
+
+void EntornoDePantallas::alMostrarModal(Accion accion) {
+    acciones_ << std::move(accion);
+}
+
+void EntornoDePantallas::cerrarPantallas() {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* f = qobject_cast<shell::Formulario*>(w); f && !f->descargado()) {
+            f->hide();
+            f->deleteLater();
+        }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void teclear(QWidget* control, const QString& texto) {
+    for (const QChar c : texto) {
+        QKeyEvent abajo(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QKeyEvent arriba(QEvent::KeyRelease, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(control, &abajo);
+        QApplication::sendEvent(control, &arriba);
+    }
+}
+
+void salirCon(QWidget* control, Qt::Key tecla) {
+    control->setFocus();
+    QTest::keyClick(control, tecla);
+}
