@@ -43,11 +43,9 @@ void AtenuarTitulo(shell::Formulario& pantalla) {
 }
 
 void MostrarModal(shell::Formulario& pantalla) {
-    QPointer<shell::Formulario> vigilada(&pantalla);
     pantalla.setWindowModality(Qt::ApplicationModal);
     pantalla.show();
-    pantalla.raise();
-    pantalla.activateWindow();
+    pantalla.traerAlFrente();
     if (conductor) {
         conductor(pantalla);
         return;

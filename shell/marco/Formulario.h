@@ -27,6 +27,8 @@ public:
     void Move(double left, double top);
 
     void Show();
+    // Raises and activates the window (a screen already open is only brought forward).
+    void traerAlFrente();
     void ShowModal();
     // Returns false when Form_QueryUnload cancelled it.
     bool Unload();
