@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the project (installing its packages first) and starts it on DSNBrenal.
+# Builds the project (installing its packages first) and starts the application on DSNBrenal.
 # The first run creates the store's database and registers DSNBrenal; with --demo that new database
 # holds the sample store. An existing database is never touched.
 set -euo pipefail
@@ -21,12 +21,9 @@ if ! "$db" status >/dev/null 2>&1; then
 elif [ "${#demo[@]}" -gt 0 ]; then
     echo "DSNBrenal ya tiene su base de datos; los datos de ejemplo solo se cargan en una base nueva."
 fi
-"$db" status
-echo
-cat <<'MSG'
-Sistema de control de cuenta corriente
-Las pantallas llegan con un cambio posterior. Mientras tanto, la consola de sentencias trabaja sobre
-el origen de datos DSNBrenal:
-
-    build/tools/cuentacorriente-sql/cuentacorriente-sql -e "Select * From Banco"
-MSG
+app=build/app/cuentacorriente
+if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+    echo "No hay pantalla (DISPLAY vacío); para abrirlo en una virtual: xvfb-run -a $app" >&2
+    exit 1
+fi
+exec "$app"

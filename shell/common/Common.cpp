@@ -30,8 +30,10 @@ void pintarTitulo(shell::Formulario& pantalla, const QColor& fondo, const QColor
 } // namespace
 
 EntornoDatos& DE() {
-    static EntornoDatos entorno;
-    return entorno;
+    // Lives until the process ends, as the shared connection does; never destroyed, since a static
+    // destructor would run after Qt's own database registry is gone.
+    static auto* entorno = new EntornoDatos;
+    return *entorno;
 }
 
 void ResaltarTitulo(shell::Formulario& pantalla) {
