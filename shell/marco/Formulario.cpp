@@ -90,7 +90,16 @@ void Formulario::closeEvent(QCloseEvent* evento) {
 // Enter on a focused push button presses it, on every screen. With KeyPreview, Enter anywhere else
 // is swallowed and moves on as Tab does.
 bool Formulario::eventFilter(QObject* objeto, QEvent* evento) {
-    if (descargado_ || evento->type() != QEvent::KeyPress) return false;
+    if (descargado_) return false;
+    // A button pressed by its Alt+letter shortcut takes the focus first, as a click does, so that the
+    // field being left runs its validate step (and writes its bound value) before the click.
+    if (evento->type() == QEvent::Shortcut) {
+        auto* boton = qobject_cast<QAbstractButton*>(objeto);
+        if (boton && boton->window() == this && boton->focusPolicy() != Qt::NoFocus)
+            boton->setFocus(Qt::ShortcutFocusReason);
+        return false;
+    }
+    if (evento->type() != QEvent::KeyPress) return false;
     auto* control = qobject_cast<QWidget*>(objeto);
     if (!control || control->window() != this || control == this) return false;
     const auto* tecla = static_cast<QKeyEvent*>(evento);

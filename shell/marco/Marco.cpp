@@ -44,6 +44,12 @@ Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
     fraMain = new QFrame(this);
     fraMain->setObjectName(QStringLiteral("fraMain"));
     fraMain->setFrameShape(QFrame::StyledPanel);
+    // While browsing the frame is disabled so that its fields take no input, but what they show
+    // stays as readable as when editing.
+    QPalette legible = fraMain->palette();
+    for (const auto rol : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        legible.setColor(QPalette::Disabled, rol, legible.color(QPalette::Active, rol));
+    fraMain->setPalette(legible);
 
     fraBarra = new QFrame(this);
     fraBarra->setObjectName(QStringLiteral("fraBarra"));

@@ -74,6 +74,8 @@ frmMain::frmMain() {
     xMenu = new QMenuBar(this);
     xMenu->setObjectName(QStringLiteral("xMenu"));
     xMenu->setNativeMenuBar(false);
+    xMenu->setStyleSheet(QStringLiteral(
+        "QMenuBar::item { padding: 2px 4px; } QMenuBar { spacing: 0px; }")); // six entries in the strip
     colocar(xMenu, 60, 60, 5895, 330);
 
     xToolbar = new QToolBar(this);

@@ -1,0 +1,14 @@
+#include "catalogs/Catalogos.h"
+
+#include "catalogs/frmBanco.h"
+#include "shell/common/Common.h"
+#include "shell/principal/frmMain.h"
+
+namespace catalogos {
+
+void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmBanco"),
+                                      [] { Common::Pantalla<frmBanco>().Show(); });
+}
+
+} // namespace catalogos

@@ -1,0 +1,126 @@
+// capturas: renders every screen built so far to PNG with the offscreen platform, one file per
+// screen and state (frmBanco-editando.png), over a temporary copy of the sample store, so that
+// anyone can look at what a person sees. Run by the build target "screenshots".
+#include "shell/principal/Main.h"
+
+#include "BaseDePrueba.h"
+#include "catalogs/Catalogos.h"
+#include "catalogs/frmBanco.h"
+#include "shell/busqueda/frmBusca.h"
+#include "shell/busqueda/frmListado.h"
+#include "shell/common/Common.h"
+#include "shell/dialogos/Dialogos.h"
+#include "shell/principal/Apariencia.h"
+#include "shell/principal/frmMain.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMenu>
+#include <QPainter>
+#include <QTest>
+#include <cstdio>
+
+namespace {
+
+QDir carpeta;
+QStringList escritos;
+
+void guardar(const QPixmap& imagen, const QString& nombre) {
+    const QString ruta = carpeta.filePath(nombre + QStringLiteral(".png"));
+    if (!imagen.save(ruta)) qFatal("cannot write %s", qPrintable(ruta));
+    escritos << ruta;
+}
+
+// Each modal screen shown is captured under the next name queued, then closed as its close box would.
+QStringList pendientes;
+
+void capturarModales() {
+    Common::InstalarConductorModal([](shell::Formulario& f) {
+        QCoreApplication::processEvents();
+        guardar(f.grab(), pendientes.isEmpty() ? f.objectName() : pendientes.takeFirst());
+        f.Unload();
+    });
+}
+
+// The main window with its first menu open: both windows painted into one picture.
+QPixmap conMenuAbierto(shell::frmMain& principal) {
+    QMenu* menu = principal.xMenu->actions().first()->menu();
+    const QRect entrada = principal.xMenu->actionGeometry(principal.xMenu->actions().first());
+    menu->popup(principal.xMenu->mapToGlobal(entrada.bottomLeft()));
+    QCoreApplication::processEvents();
+    const QPoint donde = menu->pos() - principal.pos();
+    QPixmap lienzo(qMax(principal.width(), donde.x() + menu->width()),
+                   qMax(principal.height(), donde.y() + menu->height()));
+    lienzo.fill(Qt::white);
+    QPainter p(&lienzo);
+    p.drawPixmap(0, 0, principal.grab());
+    p.drawPixmap(donde, menu->grab());
+    p.end();
+    menu->hide();
+    return lienzo;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    shell::AplicarApariencia(CC_VERSION);
+    carpeta = QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots"));
+    if (!carpeta.mkpath(QStringLiteral("."))) qFatal("cannot create %s", qPrintable(carpeta.path()));
+
+    BaseDePrueba base(true);
+    QFile demo(BaseDePrueba::rutaEsquema() + QStringLiteral("/demo/demo.sql"));
+    if (!demo.open(QIODevice::ReadOnly)) qFatal("cannot read the sample store");
+    base.sqlite(QString::fromUtf8(demo.readAll()));
+
+    catalogos::registrarPantallas();
+    capturarModales();
+    pendientes << QStringLiteral("frmSplash");
+    shell::Main();
+    auto& principal = Common::Pantalla<shell::frmMain>();
+    principal.move(40, 20);
+    guardar(principal.grab(), QStringLiteral("frmMain"));
+    guardar(conMenuAbierto(principal), QStringLiteral("frmMain-menu"));
+
+    auto& banco = Common::Pantalla<catalogos::frmBanco>();
+    banco.Show();
+    banco.move(60, 120);
+    QCoreApplication::processEvents();
+    guardar(banco.grab(), QStringLiteral("frmBanco-consultando"));
+
+    const QString titulo = QStringLiteral("Bancos del sistema");
+    pendientes << QStringLiteral("frmMensaje");
+    Common::MostrarMensaje(
+        titulo, QStringLiteral("No puede eliminarse el banco: hay recibos o facturas que lo nombran."),
+        banco);
+    pendientes << QStringLiteral("frmPregunta");
+    Common::Preguntar(titulo, QStringLiteral("En realidad desea eliminar este banco"), banco);
+    pendientes << QStringLiteral("frmOpcion");
+    Common::Parametros.ReDim(2);
+    Common::Parametros(1) = QStringLiteral("Desactivar este fiador");
+    Common::Parametros(2) = QStringLiteral("Eliminar el registro");
+    Common::ElegirOpcion(QStringLiteral("Fiadores"), banco);
+    pendientes << QStringLiteral("frmIngresoTexto");
+    Common::PedirTexto(QStringLiteral("Pagos a proveedores"), QStringLiteral("Ingrese el monto del pago."),
+                       banco, QStringLiteral("60.00"));
+
+    pendientes << QStringLiteral("frmListado");
+    QTest::mouseClick(banco.cmdBoton[0], Qt::LeftButton); // "Buscar" opens the pick list of banks
+
+    pendientes << QStringLiteral("frmBusca");
+    Common::ConsultaBusqueda = QStringLiteral("Select * From vwBuscaArticulo");
+    auto& busca = Common::Pantalla<shell::frmBusca>();
+    busca.lblTitulo->setText(QStringLiteral("Busca articulos"));
+    busca.ShowModal();
+
+    QTest::mouseClick(banco.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    QCoreApplication::processEvents();
+    guardar(banco.grab(), QStringLiteral("frmBanco-editando"));
+
+    for (const QString& e : escritos)
+        std::printf("%s\n", qPrintable(e));
+    std::fflush(stdout);
+    std::_Exit(0); // as the program ends: nothing to unload
+}
