@@ -159,9 +159,19 @@ void EnlaceDatos::mostrar() {
     mostrando_ = false;
 }
 
+// The control that writes keeps what it shows (a number field's "50.00" is not redrawn as "50"); the
+// text it wrote becomes what it shows for the row.
 void EnlaceDatos::escribir(const QVariant& valor) {
     if (!hayFilaActual()) return;
-    datos_->Recordset()->Fields(campo_).setValue(valor);
+    escribiendo_ = true;
+    try {
+        datos_->Recordset()->Fields(campo_).setValue(valor);
+    } catch (...) {
+        escribiendo_ = false;
+        throw;
+    }
+    escribiendo_ = false;
+    if (valor.typeId() == QMetaType::QString) mostrado_ = valor.toString();
 }
 
 void EnlaceDatos::filaCambiada() {
@@ -171,6 +181,7 @@ void EnlaceDatos::filaCambiada() {
 // Only a field whose value changed is shown again, so a field being typed in keeps what was typed
 // while another field of the row is written.
 void EnlaceDatos::valoresCambiados() {
+    if (escribiendo_) return;
     Common::Manejar([this] {
         if (textoDe(valorActual()) != mostrado_) mostrar();
     });

@@ -71,6 +71,7 @@ private:
     QString campo_, formato_;
     QString mostrado_;
     bool mostrando_ = false;
+    bool escribiendo_ = false;
 };
 
 EnlaceDatos* enlazar(ControlDeTexto* caja, store::Adodc* datos, const QString& campo,
