@@ -1,6 +1,8 @@
 #include "catalogs/Catalogos.h"
 
+#include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
+#include "catalogs/frmProveedor.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
 

@@ -5,7 +5,9 @@
 
 #include "BaseDePrueba.h"
 #include "catalogs/Catalogos.h"
+#include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
+#include "catalogs/frmProveedor.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -18,6 +20,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QPainter>
+#include <QTableView>
 #include <QTest>
 #include <cstdio>
 
@@ -32,15 +35,33 @@ void guardar(const QPixmap& imagen, const QString& nombre) {
     escritos << ruta;
 }
 
-// Each modal screen shown is captured under the next name queued, then closed as its close box would.
+// Each modal screen shown is captured under the next name queued, then closed as its close box would;
+// the name kElegir instead picks the first row of a search, as a double click does.
 QStringList pendientes;
+const QString kElegir = QStringLiteral("*");
 
 void capturarModales() {
     Common::InstalarConductorModal([](shell::Formulario& f) {
         QCoreApplication::processEvents();
-        guardar(f.grab(), pendientes.isEmpty() ? f.objectName() : pendientes.takeFirst());
+        const QString nombre = pendientes.isEmpty() ? f.objectName() : pendientes.takeFirst();
+        if (nombre == kElegir) {
+            auto* rejilla = f.findChild<QTableView*>();
+            const QRect celda = rejilla->visualRect(rejilla->model()->index(0, 1));
+            QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
+            return;
+        }
+        guardar(f.grab(), nombre);
         f.Unload();
     });
+}
+
+// A record screen in both modes: browsing as it stands, then editing after the given button.
+void dosModos(shell::Marco& pantalla, const QString& nombre, int botonEdicion) {
+    QCoreApplication::processEvents();
+    guardar(pantalla.grab(), nombre + QStringLiteral("-consultando"));
+    QTest::mouseClick(pantalla.cmdBoton[botonEdicion], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(pantalla.grab(), nombre + QStringLiteral("-editando"));
 }
 
 // The main window with its first menu open: both windows painted into one picture.
@@ -118,6 +139,23 @@ int main(int argc, char* argv[]) {
     QTest::mouseClick(banco.cmdBoton[1], Qt::LeftButton); // "Agregar"
     QCoreApplication::processEvents();
     guardar(banco.grab(), QStringLiteral("frmBanco-editando"));
+
+    auto& proveedor = Common::Pantalla<catalogos::frmProveedor>();
+    proveedor.Show();
+    proveedor.move(80, 140);
+    pendientes << QStringLiteral("frmListado-proveedores");
+    QTest::mouseClick(proveedor.cmdBoton[0], Qt::LeftButton); // the list, captured and closed
+    Common::IDSeleccionado = 0;
+    proveedor.adoProveedor->setRecordSource(QStringLiteral("Select * From Proveedor Where ProveedorID = 1"));
+    proveedor.adoProveedor->Refresh();
+    dosModos(proveedor, QStringLiteral("frmProveedor"), 2); // "Modificar"
+
+    auto& articulo = Common::Pantalla<catalogos::frmArticulo>();
+    articulo.Show();
+    articulo.move(100, 160);
+    pendientes << kElegir; // "Buscar" picks the first article
+    QTest::mouseClick(articulo.cmdBoton[0], Qt::LeftButton);
+    dosModos(articulo, QStringLiteral("frmArticulo"), 1); // "Modificar"
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));

@@ -1,0 +1,231 @@
+// The article screen: found through the search, prices from the margins, the option buttons, and
+// the two procedures other screens use to create an article and to test a sale against it.
+#include "BaseDePrueba.h"
+#include "EntornoDePantallas.h"
+#include "NumeroDelFallo.h"
+#include "catalogs/Articulos.h"
+#include "catalogs/frmArticulo.h"
+
+#include <QLabel>
+#include <QTableView>
+#include <QtTest>
+
+using namespace catalogos;
+
+class TstFrmArticulo : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void precios_data();
+    void precios();
+    void opcionesMuestranUnaCajaSinBorrarLaOtra();
+    void guardarNoRecalculaYCancelarDejaLoEscrito();
+    void sinAgregarNiEliminar();
+    void crearArticuloDentroDeLaTransaccion_data();
+    void crearArticuloDentroDeLaTransaccion();
+    void validarVenta_data();
+    void validarVenta();
+    void validarVentaDeArticuloDesconocido();
+
+private:
+    frmArticulo& buscar(const QString& nombre);
+    void pulsar(const QString& caption);
+    std::unique_ptr<BaseDePrueba> base_;
+    std::unique_ptr<EntornoDePantallas> entorno_;
+};
+
+void TstFrmArticulo::init() {
+    base_ = std::make_unique<BaseDePrueba>(true);
+    // Refrigeradora: 5 in stock at cost 100. Estufa: none, margins both set. Lavadora: by amount.
+    base_->sqlite(
+        "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor, "
+        "CreditoPorcentaje, CreditoValor) VALUES (1, 'Refrigeradora', 'RT38', 'Blanco', 100, 25, 0, 0, 60), "
+        "(2, 'Estufa', 'E4', 'Gris', 100, 10, 30, 20, 45), (3, 'Lavadora', 'WA17', 'Blanco', 100, 0, 30, 0, "
+        "0);"
+        "INSERT INTO NotaIngreso (IngresoID, NumeroIngreso, ProveedorID) VALUES (1, 1, 0);"
+        "INSERT INTO NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES (1, 1, 5, 100);");
+    entorno_ = std::make_unique<EntornoDePantallas>();
+    Common::DE().CN.Open();
+}
+
+void TstFrmArticulo::cleanup() {
+    entorno_.reset();
+    if (Common::DE().CN.nivelTransaccion() > 0) Common::DE().CN.RollbackTrans();
+    Common::DE().CN.Close();
+    base_.reset();
+}
+
+void TstFrmArticulo::pulsar(const QString& caption) {
+    for (QPushButton* b : Common::Pantalla<frmArticulo>().cmdBoton)
+        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
+    QFAIL(qPrintable("no visible button " + caption));
+}
+
+// "Buscar", filtering the search by the article's name and double-clicking the row found.
+frmArticulo& TstFrmArticulo::buscar(const QString& nombre) {
+    auto& p = Common::Pantalla<frmArticulo>();
+    if (!p.isVisible()) p.Show();
+    if (!QTest::qWaitForWindowActive(&p)) qWarning("the article screen did not become active");
+    entorno_->alMostrarModal([nombre](shell::Formulario& busca) {
+        auto* filtro = busca.findChild<QLineEdit*>(QStringLiteral("txtField(1)"));
+        teclear(filtro, nombre);
+        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
+        auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
+        QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {},
+                           rejilla->visualRect(rejilla->model()->index(0, 1)).center());
+    });
+    pulsar("Buscar");
+    p.activateWindow(); // back from the search, the screen takes the keyboard again
+    if (!QTest::qWaitForWindowActive(&p)) qWarning("the article screen did not become active");
+    return p;
+}
+
+void TstFrmArticulo::precios_data() {
+    QTest::addColumn<QString>("articulo");
+    QTest::addColumn<QString>("contado");
+    QTest::addColumn<QString>("credito");
+    QTest::addColumn<QString>("existencia");
+    QTest::newRow("25 % de 100; credito por valor 60") << "Refrigeradora"
+                                                       << "125.00"
+                                                       << "160.00"
+                                                       << "5";
+    QTest::newRow("ambos puestos: rige el porcentaje") << "Estufa"
+                                                       << "110.00"
+                                                       << "120.00"
+                                                       << "0";
+    QTest::newRow("valor 30 sobre 100") << "Lavadora"
+                                        << "130.00"
+                                        << "100.00"
+                                        << "0";
+}
+
+void TstFrmArticulo::precios() {
+    QFETCH(QString, articulo);
+    QFETCH(QString, contado);
+    QFETCH(QString, credito);
+    QFETCH(QString, existencia);
+    auto& p = buscar(articulo);
+    QCOMPARE(entorno_->titulosModales, QStringList{"Busca articulos"});
+    QCOMPARE(p.txtNombre->text(), articulo);
+    QCOMPARE(p.lblContadoPrecio->text(), contado);
+    QCOMPARE(p.lblCreditoPrecio->text(), credito);
+    QCOMPARE(p.lblExistencia->text(), existencia); // a whole number, though it reads "0.00" at design
+    const bool contadoPorPorcentaje = articulo != QLatin1String("Lavadora");
+    QCOMPARE(p.optContado[0]->isChecked(), contadoPorPorcentaje);
+    QCOMPARE(p.txtContadoPorcentaje->isVisibleTo(&p), contadoPorPorcentaje);
+    QCOMPARE(p.txtContadoValor->isVisibleTo(&p), !contadoPorPorcentaje);
+}
+
+void TstFrmArticulo::opcionesMuestranUnaCajaSinBorrarLaOtra() {
+    auto& p = buscar("Estufa");
+    pulsar("Modificar");
+    QTest::mouseClick(p.optContado[1], Qt::LeftButton);
+    QVERIFY(p.txtContadoValor->isVisibleTo(&p));
+    QVERIFY(!p.txtContadoPorcentaje->isVisibleTo(&p));
+    QCOMPARE(p.txtContadoPorcentaje->text(), QStringLiteral("10"));
+    QCOMPARE(p.lblContadoPrecio->text(), QStringLiteral("110.00")); // no price is recomputed
+    QTest::mouseClick(p.optCredito[1], Qt::LeftButton);
+    QVERIFY(p.txtCreditoValor->isVisibleTo(&p));
+    QVERIFY(!p.txtCreditoPorcentaje->isVisibleTo(&p));
+}
+
+void TstFrmArticulo::guardarNoRecalculaYCancelarDejaLoEscrito() {
+    auto& p = buscar("Estufa");
+    pulsar("Modificar");
+    QVERIFY(p.cmdBoton[3]->isVisible() && p.cmdBoton[4]->isVisible() && !p.cmdBoton[0]->isVisible());
+    QCOMPARE(p.cmdBoton[3]->geometry(), p.cmdBoton[0]->geometry());
+    QTest::mouseClick(p.optContado[1], Qt::LeftButton); // the percentage box is hidden now
+    p.txtContadoValor->setFocus();
+    p.txtContadoValor->selectAll();
+    teclear(p.txtContadoValor, QStringLiteral("50"));
+    QTest::keyClick(p.txtContadoValor, Qt::Key_Tab);
+    QCOMPARE(p.txtContadoValor->text(), QStringLiteral("50.00")); // a number field
+    pulsar("Guardar");
+    QCOMPARE(
+        base_->valor("SELECT ContadoPorcentaje || '/' || ContadoValor FROM Articulo WHERE ArticuloID = 2"),
+        QStringLiteral("10.0/50.0")); // the hidden box kept its value
+    QCOMPARE(p.lblContadoPrecio->text(), QStringLiteral("110.00"));
+    QVERIFY(!p.fraMain->isEnabled());
+
+    pulsar("Modificar");
+    p.txtModelo->setFocus();
+    p.txtModelo->selectAll();
+    teclear(p.txtModelo, QStringLiteral("E6"));
+    QTest::keyClick(p.txtModelo, Qt::Key_Tab);
+    pulsar("Cancelar");
+    QCOMPARE(p.txtModelo->text(), QStringLiteral("E6")); // what was typed stays on the screen
+    QCOMPARE(base_->valor("SELECT Modelo FROM Articulo WHERE ArticuloID = 2"), QStringLiteral("E4"));
+    QVERIFY(p.cmdBoton[0]->isVisible());
+    buscar("Estufa");
+    QCOMPARE(p.txtModelo->text(), QStringLiteral("E4")); // until the next search
+    QVERIFY(entorno_->fallos.isEmpty());
+}
+
+void TstFrmArticulo::sinAgregarNiEliminar() {
+    auto& p = Common::Pantalla<frmArticulo>();
+    QStringList captions;
+    for (QPushButton* b : p.cmdBoton)
+        captions << b->text();
+    QCOMPARE(captions, (QStringList{"Buscar", "Modificar", "Imprimir", "Guardar", "Cancelar"}));
+}
+
+void TstFrmArticulo::crearArticuloDentroDeLaTransaccion_data() {
+    QTest::addColumn<bool>("confirmar");
+    QTest::newRow("confirmada") << true;
+    QTest::newRow("anulada: no queda nada") << false;
+}
+
+void TstFrmArticulo::crearArticuloDentroDeLaTransaccion() {
+    QFETCH(bool, confirmar);
+    auto& cn = Common::DE().CN;
+    cn.BeginTrans();
+    const long id = Common::CrearArticulo("Televisor", "UN50", "Negro", 3100, 20, 0, 0, 900);
+    QVERIFY(id > 3);
+    confirmar ? cn.CommitTrans() : cn.RollbackTrans();
+    QCOMPARE(base_->valor(
+                 QStringLiteral("SELECT Nombre || '/' || Costo || '/' || CreditoValor || '/' || Activo FROM "
+                                "Articulo WHERE ArticuloID = %1")
+                     .arg(id)),
+             confirmar ? QStringLiteral("Televisor/3100.0/900.0/1") : QString());
+}
+
+void TstFrmArticulo::validarVenta_data() {
+    QTest::addColumn<int>("cantidad");
+    QTest::addColumn<double>("precio");
+    QTest::addColumn<QStringList>("mensajes");
+    const QString existencia = "El articulo Refrigeradora RT38 Blanco tiene 5 unidades en existencia.";
+    const QString costo =
+        "El articulo Refrigeradora RT38 Blanco no puede ser vendido por debajo del costo ( 100.00 ) .";
+    QTest::newRow("igual a la existencia y al costo") << 5 << 100.0 << QStringList();
+    QTest::newRow("una unidad de mas") << 6 << 125.0 << QStringList{existencia};
+    QTest::newRow("un centavo bajo el costo") << 1 << 99.99 << QStringList{costo};
+    QTest::newRow("precio 0 no se compara con el costo") << 1 << 0.0 << QStringList();
+    QTest::newRow("los dos mensajes, en orden") << 6 << 50.0 << QStringList{existencia, costo};
+}
+
+void TstFrmArticulo::validarVenta() {
+    QFETCH(int, cantidad);
+    QFETCH(double, precio);
+    QFETCH(QStringList, mensajes);
+    auto& p = Common::Pantalla<frmArticulo>();
+    QStringList mostrados;
+    for (int i = 0; i < mensajes.size(); ++i)
+        entorno_->alMostrarModal([&](shell::Formulario& d) {
+            mostrados << d.findChild<QLabel*>(QStringLiteral("lblMensaje"))->text();
+            QTest::mouseClick(d.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
+        });
+    QCOMPARE(Common::ValidarVentaArticulo(p, 1, cantidad, precio), mensajes.isEmpty());
+    QCOMPARE(mostrados, mensajes);
+    QCOMPARE(entorno_->modalesSinAccion, 0);
+    for (const QString& titulo : entorno_->titulosModales)
+        QCOMPARE(titulo, QStringLiteral("Artículos"));
+}
+
+void TstFrmArticulo::validarVentaDeArticuloDesconocido() {
+    QVERIFY(numeroDelFallo(
+                [] { Common::ValidarVentaArticulo(Common::Pantalla<frmArticulo>(), 99, 1, 10); }) != 0);
+}
+
+QTEST_MAIN(TstFrmArticulo)
+#include "tst_frmArticulo.moc"
