@@ -1,6 +1,6 @@
-// The pick list as a caller opens it and a clerk uses it: a row picked by a double click or by
-// "&Aceptar", "Cancelar" and the close box leaving nothing picked, and an empty list that only lets
-// the clerk out.
+// The pick list as a caller opens it and a clerk uses it: a row picked by a double click, by
+// "&Aceptar" or by Enter, "Cancelar" and the close box leaving nothing picked, and an empty list that
+// only lets the clerk out.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
 #include "shell/busqueda/frmListado.h"
@@ -14,8 +14,6 @@ namespace {
 
 const QString kBancos =
     QStringLiteral("Select BancoID as Codigo, Nombre as Descripcion From Banco Order By Nombre");
-const QString kNinguno =
-    QStringLiteral("Select BancoID as Codigo, Nombre as Descripcion From Banco Where BancoID < 0");
 
 // In the order of kBancos: BAM (3), Banco Industrial (2), Banrural (1).
 const char* const kFilas = R"(
@@ -27,14 +25,6 @@ QPushButton* boton(QWidget* f, int i) {
     return control<QPushButton>(f, QStringLiteral("cmdBoton(%1)").arg(i));
 }
 
-QPoint centroDeFila(const frmListado& f, int fila) {
-    return f.DataGrid->visualRect(f.DataGrid->model()->index(fila, 1)).center();
-}
-
-void clicEnFila(frmListado& f, int fila) {
-    QTest::mouseClick(f.DataGrid->viewport(), Qt::LeftButton, {}, centroDeFila(f, fila));
-}
-
 } // namespace
 
 class TstListado : public QObject {
@@ -43,14 +33,9 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void muestraCodigoYDescripcion();
-    void elegirUnaFila_data();
-    void elegirUnaFila();
-    void unClicSoloMueveLaFilaActual();
-    void listaVacia_data();
-    void listaVacia();
+    void elegir_data();
+    void elegir();
     void cargarListaBorraLosResultados();
-    void enterLlevaAAceptar();
-    void descripcionNulaEsFatal();
 
 private:
     // Opens the list as frmBanco does and runs `accion` while it is shown; a screen the action left
@@ -80,7 +65,7 @@ void TstListado::abrir(const QString& consulta, const std::function<void(frmList
     f.CargarLista(consulta);
     f.lblTitulo->setText(QStringLiteral(" Listado de bancos del sistema"));
     entorno_->alMostrarModal([&](Formulario& p) {
-        QVERIFY(QTest::qWaitForWindowExposed(&p));
+        QVERIFY(QTest::qWaitForWindowActive(&p));
         accion(static_cast<frmListado&>(p));
         if (!p.descargado())
             QTest::mouseClick(control<QPushButton>(&p, QStringLiteral("cmdClose")), Qt::LeftButton);
@@ -89,105 +74,83 @@ void TstListado::abrir(const QString& consulta, const std::function<void(frmList
     QVERIFY(f.descargado());
 }
 
-// Two columns bound by name, whatever else the query brings.
+// Two columns bound by name, whatever else the query brings; the code, a number, to the right.
 void TstListado::muestraCodigoYDescripcion() {
     QStringList encabezados, primera;
     abrir(QStringLiteral(
               "Select BancoID as Codigo, Nombre as Descripcion, Direccion From Banco Order By Nombre"),
           [&](frmListado& f) {
               const QAbstractItemModel* m = f.DataGrid->model();
+              QCOMPARE(m->rowCount(), 3);
               for (int c = 0; c < m->columnCount(); ++c) {
                   encabezados << m->headerData(c, Qt::Horizontal).toString();
                   primera << m->index(0, c).data().toString();
+                  const auto alineacion = m->index(0, c).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+                  QCOMPARE(alineacion & Qt::AlignHorizontal_Mask, c == 0 ? Qt::AlignRight : Qt::AlignLeft);
               }
-              QCOMPARE(m->rowCount(), 3);
-              // Unset alignment is the general one: the code, a number, to the right.
-              const auto alineacion = [m](int c) {
-                  return m->index(0, c).data(Qt::TextAlignmentRole).value<Qt::Alignment>() &
-                         Qt::AlignHorizontal_Mask;
-              };
-              QCOMPARE(alineacion(0), Qt::Alignment(Qt::AlignRight));
-              QCOMPARE(alineacion(1), Qt::Alignment(Qt::AlignLeft));
               QCOMPARE(boton(&f, 0)->text(), QStringLiteral("&Aceptar"));
               QCOMPARE(boton(&f, 1)->text(), QStringLiteral("Cancelar"));
-              QVERIFY(!f.findChild<QWidget*>(QStringLiteral("lblEstado")));
           });
     QCOMPARE(encabezados, (QStringList{"Codigo", "Descripcion"}));
     QCOMPARE(primera, (QStringList{"3", "BAM"}));
     QCOMPARE(entorno_->titulosModales, QStringList{QStringLiteral("Listado de bancos del sistema")});
 }
 
-void TstListado::elegirUnaFila_data() {
-    QTest::addColumn<int>("fila"); // -1: the row the list opened on
-    QTest::addColumn<bool>("dobleClic");
-    QTest::addColumn<int>("id");
+void TstListado::elegir_data() {
+    QTest::addColumn<QString>("consulta");
+    QTest::addColumn<QString>("gestos");
+    QTest::addColumn<int>("id"); // -1: the program ends, nothing to read
     QTest::addColumn<QString>("texto");
-
-    QTest::newRow("doble clic") << 1 << true << 2 << "Banco Industrial";
-    QTest::newRow("clic y Aceptar") << 2 << false << 1 << "Banrural";
-    QTest::newRow("Aceptar sin moverse: la primera") << -1 << false << 3 << "BAM";
+    QTest::addColumn<int>("fallos");
+    const QString ninguno =
+        QStringLiteral("Select BancoID as Codigo, Nombre as Descripcion From Banco Where BancoID < 0");
+    const QString sinNombre =
+        QStringLiteral("Select BancoID as Codigo, Direccion as Descripcion From Banco Order By 1");
+    const auto fila = [](const char* nombre, const QString& consulta, const char* gestos, int id,
+                         const char* texto, int fallos = 0) {
+        QTest::newRow(nombre) << consulta << QString(gestos) << id << QString(texto) << fallos;
+    };
+    fila("doble clic", kBancos, "doble1", 2, "Banco Industrial");
+    fila("clic y Aceptar", kBancos, "clic2 aceptar", 1, "Banrural");
+    fila("Aceptar sin moverse: la primera", kBancos, "aceptar", 3, "BAM");
+    fila("Enter en la lista lleva a Aceptar; Enter en él", kBancos, "clic1 enter enter", 2,
+         "Banco Industrial");
+    // Until "&Aceptar" a click only moves the current row.
+    fila("clics y Cancelar", kBancos, "clic2 clic1 cancelar", 0, "");
+    // On an empty list "&Aceptar" and a double click do nothing; only "Cancelar" or the close box leave.
+    fila("lista vacía, Cancelar", ninguno, "aceptar doble0 cancelar", 0, "");
+    fila("lista vacía, caja de cierre", ninguno, "aceptar doble0 cierre", 0, "");
+    // Nothing catches a Null description: picking it ends the program.
+    fila("descripción nula", sinNombre, "clic1 aceptar quedarse", -1, "", 1);
 }
 
-void TstListado::elegirUnaFila() {
-    QFETCH(int, fila);
-    QFETCH(bool, dobleClic);
+// The list stays until the last gesture, which leaves with the pick.
+void TstListado::elegir() {
+    QFETCH(QString, consulta);
+    QFETCH(QString, gestos);
     QFETCH(int, id);
     QFETCH(QString, texto);
-
-    abrir(kBancos, [&](frmListado& f) {
-        if (dobleClic) {
-            QTest::mouseDClick(f.DataGrid->viewport(), Qt::LeftButton, {}, centroDeFila(f, fila));
-            return;
+    QFETCH(int, fallos);
+    abrir(consulta, [&](frmListado& f) {
+        const QStringList pasos = gestos.split(u' ');
+        for (const QString& g : pasos) {
+            QVERIFY2(!f.descargado(), qPrintable(g));
+            const QRect celda = f.DataGrid->visualRect(f.DataGrid->model()->index(g.back().digitValue(), 1));
+            const QPoint fila = celda.isValid() ? celda.center() : f.DataGrid->viewport()->rect().center();
+            if (g.startsWith("clic")) QTest::mouseClick(f.DataGrid->viewport(), Qt::LeftButton, {}, fila);
+            if (g.startsWith("doble")) QTest::mouseDClick(f.DataGrid->viewport(), Qt::LeftButton, {}, fila);
+            if (g == "enter") QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            if (g == "aceptar") QTest::mouseClick(boton(&f, 0), Qt::LeftButton);
+            if (g == "cancelar") QTest::mouseClick(boton(&f, 1), Qt::LeftButton);
+            if (g == "cierre") QTest::mouseClick(f.cmdClose, Qt::LeftButton);
+            if (g == "quedarse") return;
         }
-        if (fila >= 0) clicEnFila(f, fila);
-        QTest::mouseClick(boton(&f, 0), Qt::LeftButton);
         QVERIFY(f.descargado());
     });
-    QVERIFY(entorno_->fallos.isEmpty());
+    QCOMPARE(entorno_->fallos.size(), fallos);
+    if (id < 0) return;
     QCOMPARE(Common::IDSeleccionado, long(id));
     QCOMPARE(Common::TextoSeleccionado, texto);
-}
-
-// The pick is read when "&Aceptar" is pressed; until then a click only moves the current row, and
-// "Cancelar" leaves nothing picked.
-void TstListado::unClicSoloMueveLaFilaActual() {
-    abrir(kBancos, [&](frmListado& f) {
-        clicEnFila(f, 2);
-        QVERIFY(!f.descargado());
-        QCOMPARE(f.Adodc->Recordset()->AbsolutePosition(), 3);
-        QCOMPARE(Common::IDSeleccionado, 0L);
-        clicEnFila(f, 1);
-        QCOMPARE(f.Adodc->Recordset()->AbsolutePosition(), 2);
-        QCOMPARE(f.DataGrid->currentIndex().row(), 1);
-        QTest::mouseClick(boton(&f, 1), Qt::LeftButton);
-        QVERIFY(f.descargado());
-    });
-    QCOMPARE(Common::IDSeleccionado, 0L);
-    QCOMPARE(Common::TextoSeleccionado, QString());
-}
-
-void TstListado::listaVacia_data() {
-    QTest::addColumn<bool>("conCancelar"); // else the close box
-    QTest::newRow("Cancelar") << true;
-    QTest::newRow("caja de cierre") << false;
-}
-
-// On an empty list "&Aceptar" and a double click do nothing; only "Cancelar" or the close box leave.
-void TstListado::listaVacia() {
-    QFETCH(bool, conCancelar);
-    abrir(kNinguno, [&](frmListado& f) {
-        QCOMPARE(f.DataGrid->model()->rowCount(), 0);
-        QTest::mouseClick(boton(&f, 0), Qt::LeftButton);
-        QVERIFY(!f.descargado());
-        QTest::mouseDClick(f.DataGrid->viewport(), Qt::LeftButton, {},
-                           f.DataGrid->viewport()->rect().center());
-        QVERIFY(!f.descargado());
-        QTest::mouseClick(conCancelar ? boton(&f, 1) : f.cmdClose, Qt::LeftButton);
-        QVERIFY(f.descargado());
-    });
-    QVERIFY(entorno_->fallos.isEmpty());
-    QCOMPARE(Common::IDSeleccionado, 0L);
-    QCOMPARE(Common::TextoSeleccionado, QString());
 }
 
 void TstListado::cargarListaBorraLosResultados() {
@@ -197,7 +160,6 @@ void TstListado::cargarListaBorraLosResultados() {
     f.CargarLista(kBancos);
     QCOMPARE(Common::IDSeleccionado, 0L);
     QCOMPARE(Common::TextoSeleccionado, QString());
-    QCOMPARE(f.Adodc->RecordSource(), kBancos);
     QCOMPARE(f.DataGrid->model()->rowCount(), 3);
 
     // Loaded again with another query, the list shows only the new rows.
@@ -206,31 +168,6 @@ void TstListado::cargarListaBorraLosResultados() {
     QCOMPARE(f.DataGrid->model()->rowCount(), 1);
     QCOMPARE(f.DataGrid->model()->index(0, 1).data().toString(), QStringLiteral("Banrural"));
     f.Unload();
-}
-
-void TstListado::enterLlevaAAceptar() {
-    abrir(kBancos, [&](frmListado& f) {
-        QVERIFY(QTest::qWaitForWindowActive(&f));
-        clicEnFila(f, 1);
-        QCOMPARE(QApplication::focusWidget(), f.DataGrid);
-        QTest::keyClick(f.DataGrid, Qt::Key_Return);
-        QCOMPARE(QApplication::focusWidget(), boton(&f, 0));
-        QVERIFY(!f.descargado());
-        QTest::keyClick(boton(&f, 0), Qt::Key_Return);
-    });
-    QCOMPARE(Common::IDSeleccionado, 2L);
-    QCOMPARE(Common::TextoSeleccionado, QStringLiteral("Banco Industrial"));
-}
-
-// Nothing catches a Null description: picking it ends the program.
-void TstListado::descripcionNulaEsFatal() {
-    abrir(QStringLiteral("Select BancoID as Codigo, Direccion as Descripcion From Banco Order By 1"),
-          [&](frmListado& f) {
-              clicEnFila(f, 1);
-              QTest::mouseClick(boton(&f, 0), Qt::LeftButton);
-              QVERIFY(!f.descargado());
-          });
-    QCOMPARE(entorno_->fallos.size(), 1);
 }
 
 QTEST_MAIN(TstListado)

@@ -3,10 +3,8 @@
 // the keys handed to the screen, and the box of several lines.
 #include "EntornoDePantallas.h"
 #include "VentanaDePrueba.h"
-#include "runtime/Fechas.h"
 #include "shell/controles/CajaTexto.h"
 #include "shell/controles/CamposDeTexto.h"
-#include "shell/controles/Teclas.h"
 
 #include <QPushButton>
 #include <QtTest>
@@ -15,24 +13,11 @@ using namespace shell;
 
 namespace {
 
+using Teclas = QList<QPair<int, int>>;
+
 enum Clase { Mayusculas, Digitos, Numero, Entero, Fecha };
-
-void aplicar(Clase clase, CajaTexto* caja) {
-    switch (clase) {
-    case Mayusculas:
-        return MayusculasAlTeclear(caja);
-    case Digitos:
-        return SoloDigitos(caja);
-    case Numero:
-        return NumeroAlSalir(caja);
-    case Entero:
-        return EnteroAlSalir(caja);
-    case Fecha:
-        return FechaAlSalir(caja);
-    }
-}
-
-enum Salida { PorTab, PorTabAtras, PorEnter, ClicEnOtroCampo, ClicEnBoton, PorPrograma };
+void (*const kClases[])(ControlDeTexto*) = {MayusculasAlTeclear, SoloDigitos, NumeroAlSalir, EnteroAlSalir,
+                                            FechaAlSalir};
 
 // A window with a field under test, another field, and a button that notes the field's text.
 struct Pantalla {
@@ -43,7 +28,6 @@ struct Pantalla {
     QStringList sucesos;
 
     Pantalla() {
-        cmdAceptar->setText(QStringLiteral("Aceptar"));
         QObject::connect(cmdAceptar, &QPushButton::clicked,
                          [this] { sucesos << QStringLiteral("Click ") + txtCampo->Text(); });
     }
@@ -51,6 +35,18 @@ struct Pantalla {
         txtCampo->alValidar([this] { sucesos << QStringLiteral("Validate ") + txtCampo->Text(); });
     }
     void entrar() { QTest::mouseClick(txtCampo, Qt::LeftButton); }
+    // Keys go to whatever has the focus.
+    void hacer(const QString& gestos) {
+        for (const QString& g : gestos.split(u' ')) {
+            QWidget* foco = QApplication::focusWidget();
+            if (g == "tab") QTest::keyClick(foco, Qt::Key_Tab);
+            if (g == "shift+tab") QTest::keyClick(foco, Qt::Key_Backtab, Qt::ShiftModifier);
+            if (g == "enter") QTest::keyClick(foco, Qt::Key_Return);
+            if (g == "clic-otro") QTest::mouseClick(txtOtro, Qt::LeftButton);
+            if (g == "clic-boton") QTest::mouseClick(cmdAceptar, Qt::LeftButton);
+            if (g == "programa") txtOtro->setFocus();
+        }
+    }
 };
 
 } // namespace
@@ -65,18 +61,12 @@ private Q_SLOTS:
     void validarAlSalir_data();
     void validarAlSalir();
     void sinValidarAlCambiarDeVentanaNiAlDeshabilitar();
-    void validarAntesDelClicDelBoton_data();
-    void validarAntesDelClicDelBoton();
     void seleccionarTodoAlEntrar_data();
     void seleccionarTodoAlEntrar();
-    void campoBloqueado();
-    void fueraDelOrdenDeTabulacion();
+    void campoBloqueadoYFueraDelOrdenDeTabulacion();
     void teclasParaLaPantalla_data();
     void teclasParaLaPantalla();
-    void teclearPuedeCambiarOTragarElCaracter();
-    void largoMaximo();
-    void cambioYDobleClic();
-    void colores();
+    void manejadoresDeLaPantalla();
     void cajaDeVariasLineas();
 
 private:
@@ -85,63 +75,35 @@ private:
 
 void TstCampos::clasesDeCampo_data() {
     QTest::addColumn<int>("clase");
+    QTest::addColumn<int>("largo"); // MaxLength, if not -1
     QTest::addColumn<QString>("tecleado");
     QTest::addColumn<QString>("queda");
-
-    QTest::newRow("mayúsculas: ñ") << int(Mayusculas) << "muñoz"
-                                   << "MUÑOZ";
-    QTest::newRow("mayúsculas: acentos y espacio") << int(Mayusculas) << "josé álvarez"
-                                                   << "JOSÉ ÁLVAREZ";
-    QTest::newRow("mayúsculas: cifras y signos quedan") << int(Mayusculas) << "a-1 b"
-                                                        << "A-1 B";
-    QTest::newRow("dígitos: letras tragadas") << int(Digitos) << "12abc34"
-                                              << "1234";
-    QTest::newRow("dígitos: signo y punto tragados") << int(Digitos) << "-5.5"
-                                                     << "55";
-    QTest::newRow("dígitos: ñ tragada") << int(Digitos) << "9ñ"
-                                        << "9";
-    QTest::newRow("número con decimales") << int(Numero) << "12.5"
-                                          << "12.50";
-    QTest::newRow("número: Val para en la coma") << int(Numero) << "1,500"
-                                                 << "1.00";
-    QTest::newRow("número: nada numérico") << int(Numero) << "abc"
-                                           << "0.00";
-    QTest::newRow("número: vacío") << int(Numero) << ""
-                                   << "0.00";
-    QTest::newRow("número: blancos delante") << int(Numero) << "  7"
-                                             << "7.00";
-    QTest::newRow("número: mitad hacia arriba") << int(Numero) << "2.675"
-                                                << "2.68";
-    QTest::newRow("número: negativo") << int(Numero) << "-3.1x"
-                                      << "-3.10";
-    QTest::newRow("entero: letras detrás") << int(Entero) << "12abc"
-                                           << "12";
-    QTest::newRow("entero: nada numérico") << int(Entero) << "abc"
-                                           << "0";
-    QTest::newRow("entero: texto decimal de Val") << int(Entero) << "12.50"
-                                                  << "12.5";
-    QTest::newRow("fecha: día que no existe") << int(Fecha) << "31/02/2026"
-                                              << "";
-    QTest::newRow("fecha: completa los ceros") << int(Fecha) << "5/1/2026"
-                                               << "05/01/2026";
-    QTest::newRow("fecha: con guiones") << int(Fecha) << "22-11-2026"
-                                        << "22/11/2026";
-    QTest::newRow("fecha: texto") << int(Fecha) << "mañana"
-                                  << "";
-    QTest::newRow("fecha: 29 de febrero bisiesto") << int(Fecha) << "29/02/2028"
-                                                   << "29/02/2028";
+    const auto fila = [](const char* nombre, int clase, const char* tecleado, const char* queda,
+                         int largo = -1) {
+        QTest::newRow(nombre) << clase << largo << QString::fromUtf8(tecleado) << QString::fromUtf8(queda);
+    };
+    fila("mayúsculas: ñ; largo 0 es sin límite", Mayusculas, "muñoz", "MUÑOZ", 0);
+    fila("el largo cuenta lo que la clase deja", Mayusculas, "ñb", "Ñ", 1);
+    fila("dígitos: letras, signo, punto y ñ tragados", Digitos, "-1a2.ñ3", "123");
+    fila("número con decimales", Numero, "12.5", "12.50");
+    fila("número: nada numérico", Numero, "abc", "0.00");
+    fila("entero: nada numérico", Entero, "abc", "0");
+    fila("entero: texto decimal de Val", Entero, "12.50", "12.5");
+    fila("fecha: día que no existe", Fecha, "31/02/2026", "");
+    fila("fecha: guiones, completa los ceros", Fecha, "5-1-2026", "05/01/2026");
 }
 
 // Typed key by key into the field, then left with Tab.
 void TstCampos::clasesDeCampo() {
     QFETCH(int, clase);
+    QFETCH(int, largo);
     QFETCH(QString, tecleado);
     QFETCH(QString, queda);
     Pantalla p;
-    aplicar(Clase(clase), p.txtCampo);
+    kClases[clase](p.txtCampo);
+    if (largo >= 0) p.txtCampo->setMaxLength(largo);
     QVERIFY(p.v.mostrar());
     p.entrar();
-    QVERIFY(p.txtCampo->hasFocus());
     teclear(p.txtCampo, tecleado);
     QTest::keyClick(p.txtCampo, Qt::Key_Tab);
     QCOMPARE(p.txtCampo->Text(), queda);
@@ -149,47 +111,32 @@ void TstCampos::clasesDeCampo() {
 }
 
 void TstCampos::validarAlSalir_data() {
-    QTest::addColumn<int>("salida");
-    QTest::newRow("Tab") << int(PorTab);
-    QTest::newRow("Shift+Tab") << int(PorTabAtras);
-    QTest::newRow("Enter avanza") << int(PorEnter);
-    QTest::newRow("clic en otro campo") << int(ClicEnOtroCampo);
-    QTest::newRow("clic en un botón") << int(ClicEnBoton);
-    QTest::newRow("foco puesto por el programa") << int(PorPrograma);
+    QTest::addColumn<QString>("gestos");
+    QTest::addColumn<bool>("pulsaElBoton");
+    QTest::newRow("Tab") << "tab" << false;
+    QTest::newRow("Enter avanza") << "enter" << false;
+    QTest::newRow("foco puesto por el programa") << "programa" << false;
+    QTest::newRow("clic en un botón") << "clic-boton" << true;
+    QTest::newRow("Enter hasta el botón y Enter en él") << "enter enter enter" << true;
 }
 
+// Validate runs once on leaving, after the field's kind (it sees the cleaned text), and before the
+// click of the button the user pressed to leave.
 void TstCampos::validarAlSalir() {
-    QFETCH(int, salida);
+    QFETCH(QString, gestos);
+    QFETCH(bool, pulsaElBoton);
     Pantalla p;
+    EnteroAlSalir(p.txtCampo);
     p.contarValidaciones();
     QVERIFY(p.v.mostrar());
     p.entrar();
-    teclear(p.txtCampo, QStringLiteral("abc"));
+    teclear(p.txtCampo, QStringLiteral("12abc"));
     QVERIFY(p.sucesos.isEmpty()); // typing doesn't validate
-    switch (Salida(salida)) {
-    case PorTab:
-        QTest::keyClick(p.txtCampo, Qt::Key_Tab);
-        break;
-    case PorTabAtras:
-        QTest::keyClick(p.txtCampo, Qt::Key_Backtab, Qt::ShiftModifier);
-        break;
-    case PorEnter:
-        QTest::keyClick(p.txtCampo, Qt::Key_Return);
-        QCOMPARE(p.txtCampo->Text(), QStringLiteral("abc")); // Enter types nothing
-        break;
-    case ClicEnOtroCampo:
-        QTest::mouseClick(p.txtOtro, Qt::LeftButton);
-        break;
-    case ClicEnBoton:
-        QTest::mouseClick(p.cmdAceptar, Qt::LeftButton);
-        break;
-    case PorPrograma:
-        p.txtOtro->setFocus();
-        break;
-    }
+    p.hacer(gestos);
     QVERIFY(!p.txtCampo->hasFocus());
-    QCOMPARE(p.sucesos.value(0), QStringLiteral("Validate abc"));
-    QCOMPARE(p.sucesos.count(QStringLiteral("Validate abc")), 1);
+    QStringList esperados{QStringLiteral("Validate 12")};
+    if (pulsaElBoton) esperados << QStringLiteral("Click 12");
+    QCOMPARE(p.sucesos, esperados);
 }
 
 // Switching to another window and back, or the field's frame being disabled (as at "Guardar"), is no
@@ -201,10 +148,8 @@ void TstCampos::sinValidarAlCambiarDeVentanaNiAlDeshabilitar() {
     p.txtCampo->alRecibirFoco([&] { ++llegadas; });
     QVERIFY(p.v.mostrar());
     p.txtCampo->setFocus();
-    QCOMPARE(llegadas, 1);
 
     QWidget otra;
-    otra.resize(200, 100);
     otra.show();
     QApplication::setActiveWindow(&otra);
     QVERIFY(QTest::qWaitForWindowActive(&otra));
@@ -214,7 +159,6 @@ void TstCampos::sinValidarAlCambiarDeVentanaNiAlDeshabilitar() {
     QCOMPARE(llegadas, 1);
 
     p.txtCampo->setEnabled(false);
-    QVERIFY(!p.txtCampo->hasFocus());
     QVERIFY(p.sucesos.isEmpty());
 
     // Once enabled again, a real leaving validates as always.
@@ -225,96 +169,57 @@ void TstCampos::sinValidarAlCambiarDeVentanaNiAlDeshabilitar() {
     QCOMPARE(p.sucesos, QStringList{QStringLiteral("Validate ")});
 }
 
-void TstCampos::validarAntesDelClicDelBoton_data() {
-    QTest::addColumn<bool>("conTeclado");
-    QTest::newRow("clic con el ratón") << false;
-    QTest::newRow("Enter hasta el botón y Enter en él") << true;
-}
-
-// The screen's Validate handler, after the field's kind, sees the cleaned text; the button's click
-// comes after both.
-void TstCampos::validarAntesDelClicDelBoton() {
-    QFETCH(bool, conTeclado);
-    Pantalla p;
-    EnteroAlSalir(p.txtCampo);
-    p.contarValidaciones();
-    QVERIFY(p.v.mostrar());
-    p.entrar();
-    QTest::keyClicks(p.txtCampo, QStringLiteral("12abc"));
-    if (conTeclado) {
-        QTest::keyClick(p.txtCampo, Qt::Key_Return);
-        QTest::keyClick(p.txtOtro, Qt::Key_Return);
-        QVERIFY(p.cmdAceptar->hasFocus());
-        QTest::keyClick(p.cmdAceptar, Qt::Key_Return);
-    } else {
-        QTest::mouseClick(p.cmdAceptar, Qt::LeftButton);
-    }
-    QCOMPARE(p.sucesos, (QStringList{QStringLiteral("Validate 12"), QStringLiteral("Click 12")}));
-}
-
 void TstCampos::seleccionarTodoAlEntrar_data() {
     QTest::addColumn<bool>("conClase");
-    QTest::addColumn<int>("como");
-    QTest::newRow("Tab") << true << int(PorTab);
-    QTest::newRow("clic") << true << int(ClicEnOtroCampo);
-    QTest::newRow("foco puesto por el programa") << true << int(PorPrograma);
-    QTest::newRow("sin la clase, Tab no selecciona") << false << int(PorTab);
-    QTest::newRow("sin la clase, el clic no selecciona") << false << int(ClicEnOtroCampo);
+    QTest::addColumn<QString>("gesto");
+    QTest::newRow("Tab") << true << "tab";
+    QTest::newRow("clic") << true << "clic-otro";
+    QTest::newRow("sin la clase, Tab no selecciona") << false << "tab";
 }
 
 // The kind selects the whole text however the field is entered, so typing replaces it.
 void TstCampos::seleccionarTodoAlEntrar() {
     QFETCH(bool, conClase);
-    QFETCH(int, como);
+    QFETCH(QString, gesto);
     Pantalla p;
     if (conClase) SeleccionarTodoAlEntrar(p.txtOtro);
     p.txtOtro->setText(QStringLiteral("1250"));
     QVERIFY(p.v.mostrar());
     p.txtCampo->setFocus();
-    switch (como) {
-    case PorTab:
-        QTest::keyClick(p.txtCampo, Qt::Key_Tab);
-        break;
-    case ClicEnOtroCampo:
-        QTest::mouseClick(p.txtOtro, Qt::LeftButton);
-        break;
-    default:
-        p.txtOtro->setFocus();
-        break;
-    }
+    p.hacer(gesto);
     QVERIFY(p.txtOtro->hasFocus());
-    QCOMPARE(p.txtOtro->SelLength(), conClase ? 4 : 0);
     teclear(p.txtOtro, QStringLiteral("9"));
-    if (conClase)
-        QCOMPARE(p.txtOtro->Text(), QStringLiteral("9"));
-    else
-        QCOMPARE(p.txtOtro->Text().size(), 5);
+    QCOMPARE(p.txtOtro->Text().size(), conClase ? 1 : 5);
 }
 
-void TstCampos::campoBloqueado() {
+// A locked field takes focus by the pointer and by Tab, and its text can be selected, but typing,
+// deleting and pasting change nothing; leaving it still validates. Out of the tab order (the
+// invoice's discount), Tab passes a field by and the pointer still enters it.
+void TstCampos::campoBloqueadoYFueraDelOrdenDeTabulacion() {
     Pantalla p;
+    auto* txtDescuento = p.v.agregar<CajaTexto>(QStringLiteral("txtDescuento"), 3000, 120);
+    txtDescuento->setTabStop(false);
+    QWidget::setTabOrder(p.txtOtro, txtDescuento);
     p.contarValidaciones();
     p.txtCampo->setText(QStringLiteral("JUAN"));
     p.txtCampo->setLocked(true);
-    QVERIFY(p.txtCampo->Locked());
     QVERIFY(p.v.mostrar());
 
-    // It takes focus by the pointer and by Tab, and its text can be selected...
     p.entrar();
     QVERIFY(p.txtCampo->hasFocus());
-    QTest::keyClick(p.txtCampo, Qt::Key_Tab);
-    QTest::keyClick(p.txtOtro, Qt::Key_Backtab, Qt::ShiftModifier);
+    p.hacer(QStringLiteral("tab tab")); // passes txtDescuento by
+    QVERIFY(p.cmdAceptar->hasFocus());
+    p.hacer(QStringLiteral("shift+tab shift+tab"));
     QVERIFY(p.txtCampo->hasFocus());
     p.txtCampo->setSelStart(0);
     p.txtCampo->setSelLength(2);
     QCOMPARE(p.txtCampo->SelText(), QStringLiteral("JU"));
-    // ...but typing, deleting and pasting change nothing.
     teclear(p.txtCampo, QStringLiteral("Ñx"));
     QTest::keyClick(p.txtCampo, Qt::Key_Backspace);
     QTest::keyClick(p.txtCampo, Qt::Key_Delete);
     QCOMPARE(p.txtCampo->Text(), QStringLiteral("JUAN"));
-    // Leaving it still validates.
-    QTest::keyClick(p.txtCampo, Qt::Key_Tab);
+    QTest::mouseClick(txtDescuento, Qt::LeftButton);
+    QVERIFY(txtDescuento->hasFocus());
     QCOMPARE(p.sucesos.count(QStringLiteral("Validate JUAN")), 2);
 
     p.txtCampo->setLocked(false);
@@ -324,34 +229,12 @@ void TstCampos::campoBloqueado() {
     QCOMPARE(p.txtCampo->Text(), QStringLiteral("JUANA"));
 }
 
-// Out of the tab order (the invoice's discount): Tab passes it by, the pointer still enters it.
-void TstCampos::fueraDelOrdenDeTabulacion() {
-    Pantalla p;
-    auto* txtDescuento = p.v.agregar<CajaTexto>(QStringLiteral("txtDescuento"), 3000, 120);
-    txtDescuento->setTabStop(false);
-    QVERIFY(!txtDescuento->TabStop());
-    QWidget::setTabOrder(p.txtCampo, txtDescuento);
-    QWidget::setTabOrder(txtDescuento, p.txtOtro);
-    QVERIFY(p.v.mostrar());
-    p.txtCampo->setFocus();
-    QTest::keyClick(p.txtCampo, Qt::Key_Tab);
-    QVERIFY(p.txtOtro->hasFocus());
-    QTest::keyClick(p.txtOtro, Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(p.txtCampo->hasFocus());
-    QTest::mouseClick(txtDescuento, Qt::LeftButton);
-    QVERIFY(txtDescuento->hasFocus());
-}
-
 void TstCampos::teclasParaLaPantalla_data() {
-    using Teclas = QList<QPair<int, int>>;
     QTest::addColumn<int>("tecla");
     QTest::addColumn<int>("modificadores");
     QTest::addColumn<Teclas>("recibidas");
-    QTest::newRow("F2") << int(Qt::Key_F2) << int(Qt::NoModifier) << Teclas{{113, 0}};
     // The shift key is a key too, pressed before the other one.
     QTest::newRow("Shift+F2") << int(Qt::Key_F2) << int(Qt::ShiftModifier) << Teclas{{16, 1}, {113, 1}};
-    QTest::newRow("Ctrl+Insert") << int(Qt::Key_Insert) << int(Qt::ControlModifier)
-                                 << Teclas{{17, 2}, {45, 2}};
     QTest::newRow("Supr") << int(Qt::Key_Delete) << int(Qt::NoModifier) << Teclas{{46, 0}};
     QTest::newRow("letra") << int(Qt::Key_A) << int(Qt::NoModifier) << Teclas{{65, 0}};
     QTest::newRow("Enter, que además avanza")
@@ -360,7 +243,6 @@ void TstCampos::teclasParaLaPantalla_data() {
 
 // KeyDown reaches the screen once per key, Enter included although the window then moves on.
 void TstCampos::teclasParaLaPantalla() {
-    using Teclas = QList<QPair<int, int>>;
     QFETCH(int, tecla);
     QFETCH(int, modificadores);
     QFETCH(Teclas, recibidas);
@@ -374,14 +256,21 @@ void TstCampos::teclasParaLaPantalla() {
     QCOMPARE(p.txtOtro->hasFocus(), tecla == Qt::Key_Return);
 }
 
-// KeyPress hands the character code to the screen, which may replace it or swallow it (0).
-void TstCampos::teclearPuedeCambiarOTragarElCaracter() {
+// The screen's handlers: KeyPress gets each character's code and may replace it or swallow it (0);
+// Change runs for every change, the program's included; DblClick reaches the screen too.
+void TstCampos::manejadoresDeLaPantalla() {
     Pantalla p;
     QList<int> codigos;
+    int cambios = 0, dobles = 0;
     p.txtCampo->alTeclear([&](int& KeyAscii) {
         codigos << KeyAscii;
         if (KeyAscii == '.') KeyAscii = ',';
         if (KeyAscii == 'x') KeyAscii = 0;
+    });
+    p.txtCampo->alCambiar([&] { ++cambios; });
+    p.txtCampo->alHacerDobleClic([&] {
+        ++dobles;
+        p.txtCampo->setText(QString());
     });
     QVERIFY(p.v.mostrar());
     p.entrar();
@@ -390,52 +279,11 @@ void TstCampos::teclearPuedeCambiarOTragarElCaracter() {
     QTest::keyClick(p.txtCampo, Qt::Key_Left); // no character: not a KeyPress
     QCOMPARE(p.txtCampo->Text(), QStringLiteral("1,5"));
     QCOMPARE(codigos, (QList<int>{'1', '.', '5', 'x', 0xF1, 8}));
-}
-
-void TstCampos::largoMaximo() {
-    Pantalla p;
-    QCOMPARE(p.txtCampo->MaxLength(), 0);
-    p.txtCampo->setMaxLength(1);
-    MayusculasAlTeclear(p.txtCampo);
-    QVERIFY(p.v.mostrar());
-    p.entrar();
-    teclear(p.txtCampo, QStringLiteral("ñb"));
-    QCOMPARE(p.txtCampo->Text(), QStringLiteral("Ñ"));
-    p.txtCampo->setMaxLength(0);
-    teclear(p.txtCampo, QStringLiteral("ab"));
-    QCOMPARE(p.txtCampo->Text(), QStringLiteral("ÑAB"));
-}
-
-void TstCampos::cambioYDobleClic() {
-    Pantalla p;
-    int cambios = 0, dobles = 0;
-    p.txtCampo->alCambiar([&] { ++cambios; });
-    p.txtCampo->alHacerDobleClic([&] {
-        ++dobles;
-        p.txtCampo->setText(QString());
-        p.txtCampo->setBackColor(QColor(255, 255, 192));
-    });
-    QVERIFY(p.v.mostrar());
-    p.entrar();
-    teclear(p.txtCampo, QStringLiteral("ab"));
-    QCOMPARE(cambios, 2);
+    QCOMPARE(cambios, 5);
     p.txtCampo->setText(QStringLiteral("CLIENTE"));
-    QCOMPARE(cambios, 3);
     QTest::mouseDClick(p.txtCampo, Qt::LeftButton);
     QCOMPARE(dobles, 1);
-    QCOMPARE(p.txtCampo->Text(), QString());
-    QCOMPARE(cambios, 4);
-}
-
-void TstCampos::colores() {
-    Pantalla p;
-    p.txtCampo->setBackColor(QColor(224, 224, 224));
-    p.txtCampo->setForeColor(QColor(255, 0, 0));
-    QCOMPARE(p.txtCampo->BackColor(), QColor(224, 224, 224));
-    QCOMPARE(p.txtCampo->ForeColor(), QColor(255, 0, 0));
-    QVERIFY(p.v.mostrar());
-    const QImage imagen = p.txtCampo->grab().toImage();
-    QCOMPARE(imagen.pixelColor(imagen.width() / 2, imagen.height() / 2), QColor(224, 224, 224));
+    QCOMPARE(cambios, 7);
 }
 
 void TstCampos::cajaDeVariasLineas() {
@@ -460,7 +308,6 @@ void TstCampos::cajaDeVariasLineas() {
     QCOMPARE(txtConcepto->Text(), QStringLiteral("ABONO DE SEÑOR"));
     txtConcepto->setSelStart(6);
     txtConcepto->setSelLength(2);
-    QCOMPARE(txtConcepto->SelLength(), 2);
     QCOMPARE(txtConcepto->textCursor().selectedText(), QStringLiteral("DE"));
 }
 

@@ -20,14 +20,12 @@ class TstComboDatos : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
-    void laListaMuestraLosNombres();
     void valorEnlazado_data();
     void valorEnlazado();
     void elUsuarioElige_data();
     void elUsuarioElige();
     void sigueALaFuenteAlRefrescar();
-    void unValorDadoAntesDeLeerLaLista();
-    void fuenteRecordsetYPosicionDeLaFuente();
+    void otrasFuentes();
 
 private:
     std::unique_ptr<BaseDePrueba> base_;
@@ -62,43 +60,19 @@ void TstComboDatos::cleanup() {
     base_.reset();
 }
 
-void TstComboDatos::laListaMuestraLosNombres() {
-    QStringList nombres;
-    for (int i = 0; i < dacBancos_->count(); ++i)
-        nombres << dacBancos_->itemText(i);
-    QCOMPARE(nombres,
-             (QStringList{"BANCO INDUSTRIAL", "BANRURAL", "G&T CONTINENTAL", "BANCO DE LOS TRABAJADORES"}));
-    // Nothing chosen at first: nothing shown.
-    QCOMPARE(dacBancos_->BoundText(), QString());
-    QCOMPARE(dacBancos_->Text(), QString());
-    QVERIFY(entorno_->fallos.isEmpty());
-}
-
 void TstComboDatos::valorEnlazado_data() {
     QTest::addColumn<QString>("dado");
     QTest::addColumn<QString>("muestra");
     QTest::addColumn<QString>("enlazado");
-    QTest::newRow("una clave") << "2"
-                               << "BANRURAL"
-                               << "2";
-    QTest::newRow("otra clave") << "7"
-                                << "G&T CONTINENTAL"
-                                << "7";
-    QTest::newRow("la clave escrita como número decimal") << "9.0"
-                                                          << "BANCO DE LOS TRABAJADORES"
-                                                          << "9";
-    QTest::newRow("0: ningún banco") << "0"
-                                     << ""
-                                     << "";
-    QTest::newRow("vacío: ningún banco") << ""
-                                         << ""
-                                         << "";
-    QTest::newRow("una clave que no está") << "99"
-                                           << ""
-                                           << "";
-    QTest::newRow("un nombre no es una clave") << "BANRURAL"
-                                               << ""
-                                               << "";
+    const auto fila = [](const char* nombre, const char* dado, const char* muestra, const char* enlazado) {
+        QTest::newRow(nombre) << QString(dado) << QString(muestra) << QString(enlazado);
+    };
+    fila("una clave", "7", "G&T CONTINENTAL", "7");
+    fila("la clave escrita como número decimal", "9.0", "BANCO DE LOS TRABAJADORES", "9");
+    fila("0: ningún banco", "0", "", "");
+    fila("vacío: ningún banco", "", "", "");
+    fila("una clave que no está", "99", "", "");
+    fila("un nombre no es una clave", "BANRURAL", "", "");
 }
 
 void TstComboDatos::valorEnlazado() {
@@ -115,12 +89,9 @@ void TstComboDatos::valorEnlazado() {
 void TstComboDatos::elUsuarioElige_data() {
     QTest::addColumn<QString>("como");
     QTest::addColumn<QString>("enlazado");
-    QTest::newRow("flecha abajo desde nada") << "abajo"
-                                             << "1";
-    QTest::newRow("tecleando la inicial") << "G"
-                                          << "7";
-    QTest::newRow("de la lista abierta") << "lista"
-                                         << "2";
+    QTest::newRow("flecha abajo desde nada") << "abajo" << QString("1");
+    QTest::newRow("tecleando la inicial") << "G" << QString("7");
+    QTest::newRow("de la lista abierta") << "lista" << QString("2");
 }
 
 // A pick by the user changes the bound value and runs the screen's Change and Click.
@@ -154,8 +125,16 @@ void TstComboDatos::elUsuarioElige() {
     QCOMPARE(sucesos.size(), 3);
 }
 
-// Refresh of the row source reads the list again; the choice stays while its row does.
+// The list shows the names, nothing chosen at first. Refresh of the row source reads the list again;
+// the choice stays while its row does.
 void TstComboDatos::sigueALaFuenteAlRefrescar() {
+    QStringList nombres;
+    for (int i = 0; i < dacBancos_->count(); ++i)
+        nombres << dacBancos_->itemText(i);
+    QCOMPARE(nombres,
+             (QStringList{"BANCO INDUSTRIAL", "BANRURAL", "G&T CONTINENTAL", "BANCO DE LOS TRABAJADORES"}));
+    QCOMPARE(dacBancos_->BoundText(), QString());
+    QCOMPARE(dacBancos_->Text(), QString());
     int cambios = 0;
     dacBancos_->setBoundText(QStringLiteral("7"));
     dacBancos_->alCambiar([&] { ++cambios; });
@@ -175,8 +154,10 @@ void TstComboDatos::sigueALaFuenteAlRefrescar() {
     QVERIFY(entorno_->fallos.isEmpty());
 }
 
-// A screen may set the bound value before its list source has been read.
-void TstComboDatos::unValorDadoAntesDeLeerLaLista() {
+// Other sources: a data control not read yet takes a bound value that shows once it is read; a
+// recordset the screen opened, given before the columns, serves as well and can be taken away. Reading
+// the list leaves its row source where it was.
+void TstComboDatos::otrasFuentes() {
     auto* adoOtros = new store::Adodc(v_->ventana());
     adoOtros->setRecordSource(QStringLiteral("Select * From Banco"));
     auto* dacOtro = v_->agregar<ComboDatos>(QStringLiteral("dacOtro"), 120, 1200);
@@ -184,29 +165,24 @@ void TstComboDatos::unValorDadoAntesDeLeerLaLista() {
     dacOtro->setBoundColumn(QStringLiteral("BancoID"));
     dacOtro->setRowSource(adoOtros);
     dacOtro->setBoundText(QStringLiteral("2"));
-    QCOMPARE(dacOtro->count(), 0);
     QCOMPARE(dacOtro->BoundText(), QString());
     adoOtros->Refresh();
     QCOMPARE(dacOtro->Text(), QStringLiteral("BANRURAL"));
     QCOMPARE(dacOtro->BoundText(), QStringLiteral("2"));
-}
 
-// A recordset the screen opened serves as well; reading the list leaves its row source where it was.
-void TstComboDatos::fuenteRecordsetYPosicionDeLaFuente() {
     store::Conexion cn(QStringLiteral("DSN=DSNBrenal"));
     cn.Open();
     store::Recordset rs;
     rs.Open(QStringLiteral("Select BancoID, Nombre From Banco Where BancoID > 1 Order By 2"), cn);
-    auto* dacOtro = v_->agregar<ComboDatos>(QStringLiteral("dacOtro"), 120, 1200);
-    dacOtro->setRowSource(&rs);
-    dacOtro->setBoundColumn(QStringLiteral("BancoID"));
-    dacOtro->setListField(QStringLiteral("Nombre"));
-    QCOMPARE(dacOtro->count(), 3);
-    QCOMPARE(dacOtro->itemText(0), QStringLiteral("BANCO DE LOS TRABAJADORES"));
-    dacOtro->setBoundText(QStringLiteral("9"));
-    QCOMPARE(dacOtro->currentIndex(), 0);
-    dacOtro->setRowSource(static_cast<store::Recordset*>(nullptr));
-    QCOMPARE(dacOtro->count(), 0);
+    auto* dacRs = v_->agregar<ComboDatos>(QStringLiteral("dacRs"), 120, 1600);
+    dacRs->setRowSource(&rs);
+    dacRs->setBoundColumn(QStringLiteral("BancoID"));
+    dacRs->setListField(QStringLiteral("Nombre"));
+    dacRs->setBoundText(QStringLiteral("9"));
+    QCOMPARE(dacRs->count(), 3);
+    QCOMPARE(dacRs->Text(), QStringLiteral("BANCO DE LOS TRABAJADORES"));
+    dacRs->setRowSource(static_cast<store::Recordset*>(nullptr));
+    QCOMPARE(dacRs->count(), 0);
 
     adoBancos_->Recordset()->MoveNext();
     adoBancos_->Recordset()->MoveNext();
