@@ -3,7 +3,6 @@
 #include "runtime/Conversion.h"
 #include "runtime/Fechas.h"
 #include "runtime/Texto.h"
-#include "shell/busqueda/MarcoDeBusqueda.h"
 #include "shell/common/Common.h"
 #include "shell/common/Twips.h"
 
@@ -74,7 +73,7 @@ void frmBusca::Form_Load() {
     ado->setRecordSource(Common::ConsultaBusqueda);
     CajasCreadas = false;
     ConstruirColumnas();
-    AjustarTituloYBarra(*this);
+    AjustarTituloYBarra();
     if (txtField.size() > 1) txtField[1]->setFocus();
 }
 

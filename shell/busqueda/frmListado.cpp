@@ -1,7 +1,6 @@
 #include "shell/busqueda/frmListado.h"
 
 #include "runtime/Conversion.h"
-#include "shell/busqueda/MarcoDeBusqueda.h"
 #include "shell/common/Common.h"
 #include "shell/common/Twips.h"
 #include "store/Fallo.h"
@@ -56,7 +55,7 @@ frmListado::frmListado()
 
 // The caller's first touch of the instance runs this, so CargarLista always comes after it.
 void frmListado::Form_Load() {
-    AjustarTituloYBarra(*this);
+    AjustarTituloYBarra();
     const double arriba = altoTw(lblTitulo) + 120;
     colocar(fraMain, 120, arriba, Width() - 270, topTw(fraBarra) - arriba - 120);
     Common::IDSeleccionado = 0;

@@ -67,18 +67,22 @@ Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
 }
 
 void Marco::AjustarPantalla() {
+    AjustarTituloYBarra();
+    lblEstado->move(px(anchoTw(fraBarra) - anchoTw(lblEstado) - 150), lblEstado->y());
+    const double arriba = altoTw(lblTitulo) + 120;
+    colocar(fraMain, 120, arriba, Width() - 270, topTw(fraBarra) - arriba - 120);
+    fraMain->setEnabled(false);
+    pintarFondo(lblEstado, kColorBarra);
+}
+
+void Marco::AjustarTituloYBarra() {
     const double W = Width(), H = Height();
     lblTitulo->setText(lblTitulo->text() + QLatin1Char(' '));
     lblTitulo->resize(px(W - anchoTw(cmdClose)), lblTitulo->height());
     cmdClose->resize(cmdClose->width(), lblTitulo->height());
     cmdClose->move(px(W - anchoTw(cmdClose)), cmdClose->y());
     colocar(fraBarra, 0, H - altoTw(fraBarra) - 20, W - 20, altoTw(fraBarra));
-    lblEstado->move(px(anchoTw(fraBarra) - anchoTw(lblEstado) - 150), lblEstado->y());
-    const double arriba = altoTw(lblTitulo) + 120;
-    colocar(fraMain, 120, arriba, W - 270, topTw(fraBarra) - arriba - 120);
-    fraMain->setEnabled(false);
     pintarFondo(fraBarra, kColorBarra);
-    pintarFondo(lblEstado, kColorBarra);
     for (QPushButton* b : cmdBoton)
         if (b) pintarFondo(b, kColorBarra);
 }

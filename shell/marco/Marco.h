@@ -30,6 +30,9 @@ public:
     // The standard layout, in this order: title and close box across the top, the bar along the foot,
     // the mode word at its right, fraMain filling the rest (disabled), the bar's colours.
     void AjustarPantalla();
+    // Its first part alone, for the screens with no mode word or working frame of their own: the title
+    // with one blank and the close box, the bar along the foot, the bar's colours.
+    void AjustarTituloYBarra();
 
 protected:
     // A button of the bar, 1,200 x 375 twips, 120 from the bar's top, with the icon of its caption.
