@@ -190,24 +190,14 @@ void frmArticulo::cmdBoton_Click(int Index) {
     }
 }
 
+// "Guardar" and "Cancelar" are buttons 3 and 4 on this bar.
 void frmArticulo::ModoEdicion(const QString& estado) {
-    lblEstado->setText(estado);
-    lblEstado->show();
-    for (QPushButton* b : cmdBoton)
-        b->hide();
-    cmdBoton[3]->show();
-    cmdBoton[4]->show();
-    fraMain->setEnabled(true);
+    mostrarEdicion(estado, 3, 4);
 }
 
 void frmArticulo::ModoConsulta() {
     Agregando = false;
-    lblEstado->hide();
-    for (QPushButton* b : cmdBoton)
-        b->show();
-    cmdBoton[3]->hide();
-    cmdBoton[4]->hide();
-    fraMain->setEnabled(false);
+    mostrarConsulta(3, 4);
 }
 
 void frmArticulo::Buscar() {

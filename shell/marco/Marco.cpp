@@ -87,6 +87,25 @@ void Marco::AjustarTituloYBarra() {
         if (b) pintarFondo(b, kColorBarra);
 }
 
+void Marco::mostrarEdicion(const QString& estado, int guardar, int cancelar) {
+    lblEstado->setText(estado);
+    lblEstado->show();
+    for (QPushButton* b : cmdBoton)
+        b->hide();
+    cmdBoton[guardar]->show();
+    cmdBoton[cancelar]->show();
+    fraMain->setEnabled(true);
+}
+
+void Marco::mostrarConsulta(int guardar, int cancelar) {
+    lblEstado->hide();
+    for (QPushButton* b : cmdBoton)
+        b->show();
+    cmdBoton[guardar]->hide();
+    cmdBoton[cancelar]->hide();
+    fraMain->setEnabled(false);
+}
+
 QPushButton* Marco::crearBoton(int indice, const QString& caption, double left, bool visible, double ancho) {
     auto* boton = new QPushButton(caption, fraBarra);
     boton->setObjectName(QStringLiteral("cmdBoton(%1)").arg(indice));

@@ -49,6 +49,12 @@ protected:
         return c;
     }
 
+    // The two modes of a screen that edits rows: editing shows only the two edit buttons (standing
+    // where the first two browse buttons stand), the mode word and an enabled fraMain; browsing shows
+    // every other button and disables fraMain.
+    void mostrarEdicion(const QString& estado, int guardar, int cancelar);
+    void mostrarConsulta(int guardar, int cancelar);
+
     virtual void cmdBoton_Click(int Index) { Q_UNUSED(Index); }
     virtual void cmdClose_Click() { Unload(); }
 

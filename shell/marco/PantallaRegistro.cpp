@@ -16,23 +16,12 @@ PantallaRegistro::PantallaRegistro(const QString& titulo, double ancho, double a
 }
 
 void PantallaRegistro::ModoEdicion(const QString& estado) {
-    lblEstado->setText(estado);
-    lblEstado->show();
-    for (QPushButton* b : cmdBoton)
-        b->hide();
-    cmdBoton[5]->show();
-    cmdBoton[6]->show();
-    fraMain->setEnabled(true);
+    mostrarEdicion(estado, 5, 6);
 }
 
 void PantallaRegistro::ModoConsulta() {
     Agregando = false;
-    lblEstado->hide();
-    for (QPushButton* b : cmdBoton)
-        b->show();
-    cmdBoton[5]->hide();
-    cmdBoton[6]->hide();
-    fraMain->setEnabled(false);
+    mostrarConsulta(5, 6);
 }
 
 } // namespace shell
