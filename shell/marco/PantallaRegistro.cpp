@@ -1,5 +1,8 @@
 #include "shell/marco/PantallaRegistro.h"
 
+#include "shell/common/Common.h"
+#include "shell/dialogos/Dialogos.h"
+
 namespace shell {
 
 const QStringList PantallaRegistro::kCaptions = {QStringLiteral("Buscar"),    QStringLiteral("Agregar"),
@@ -22,6 +25,20 @@ void PantallaRegistro::ModoEdicion(const QString& estado) {
 void PantallaRegistro::ModoConsulta() {
     Agregando = false;
     mostrarConsulta(5, 6);
+}
+
+// "Aceptar" undoes the open transaction (the counter first) and lets the screen close; any other
+// answer keeps the screen as it is.
+void PantallaRegistro::Form_QueryUnload(bool& cancelar) {
+    if (!guardaDeTransaccion_ || Common::TransaccionActiva <= 0) return;
+    if (Common::Preguntar(lblTitulo->text(),
+                          QStringLiteral("Hay una transaccion de datos activa\r\nDesea anularla"),
+                          *this) == QLatin1String("Aceptar")) {
+        Common::TransaccionActiva = 0;
+        Common::DE().CN.RollbackTrans();
+    } else {
+        cancelar = true;
+    }
 }
 
 } // namespace shell

@@ -17,9 +17,17 @@ public:
 
     static const QStringList kCaptions;
 
+    // Screens that edit inside the shared transaction guard their closing: with a transaction open,
+    // the clerk is asked whether to undo it, and closing waits for the answer.
+    void setGuardaDeTransaccion(bool activa) { guardaDeTransaccion_ = activa; }
+
 protected:
     void ModoEdicion(const QString& estado);
     void ModoConsulta();
+    void Form_QueryUnload(bool& cancelar) override;
+
+private:
+    bool guardaDeTransaccion_ = false;
 };
 
 } // namespace shell

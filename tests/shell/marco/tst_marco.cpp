@@ -1,11 +1,13 @@
 // What every screen shares: one instance loaded on first use and built afresh after it unloads,
 // the chrome laid out in twips, the title strip that moves the window and changes colour, Enter
 // moving on, the two modes of a record screen, and failures reaching the fatal path.
+#include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
 #include "shell/common/Common.h"
 #include "shell/common/Twips.h"
 #include "shell/marco/PantallaRegistro.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -45,6 +47,15 @@ protected:
     }
 };
 
+// A record screen that edits inside the shared transaction, with no closing logic of its own.
+class PantallaConTransaccion : public PantallaRegistro {
+public:
+    PantallaConTransaccion()
+        : PantallaRegistro(QStringLiteral("Recibos"), 7000, 3000) {
+        setObjectName(QStringLiteral("PantallaConTransaccion"));
+    }
+};
+
 QColor colorDe(QWidget* w) {
     return w->grab().toImage().pixelColor(2, 2);
 }
@@ -71,6 +82,8 @@ private Q_SLOTS:
     void fallosSinAtenderLleganAlCaminoFatal_data();
     void fallosSinAtenderLleganAlCaminoFatal();
     void mostrarModalVuelveAlDescargar();
+    void guardaDeTransaccionAlCerrar_data();
+    void guardaDeTransaccionAlCerrar();
 
 private:
     std::unique_ptr<EntornoDePantallas> entorno_;
@@ -225,6 +238,54 @@ void TstMarco::mostrarModalVuelveAlDescargar() {
     QCOMPARE(entorno_->modalesMostradas, QStringList{"Dialogo"});
     QCOMPARE(entorno_->titulosModales, QStringList{"Dialogo"});
     QVERIFY(dialogo->descargado());
+}
+
+void TstMarco::guardaDeTransaccionAlCerrar_data() {
+    QTest::addColumn<bool>("guardada");
+    QTest::addColumn<bool>("conTransaccion");
+    QTest::addColumn<QString>("respuesta");
+    QTest::addColumn<bool>("cierra");
+    QTest::newRow("Aceptar anula y cierra") << true << true << "Aceptar" << true;
+    QTest::newRow("Cancelar deja la pantalla") << true << true << "Cancelar" << false;
+    QTest::newRow("sin transaccion no pregunta") << true << false << "" << true;
+    QTest::newRow("pantalla sin guarda cierra y deja la transaccion") << false << true << "" << true;
+}
+
+void TstMarco::guardaDeTransaccionAlCerrar() {
+    QFETCH(bool, guardada);
+    QFETCH(bool, conTransaccion);
+    QFETCH(QString, respuesta);
+    QFETCH(bool, cierra);
+    BaseDePrueba base(true);
+    auto& cn = Common::DE().CN;
+    cn.Open();
+    if (conTransaccion) {
+        Common::TransaccionActiva = cn.BeginTrans();
+        cn.Execute(QStringLiteral("Insert Into Banco (Nombre) Values ('Banco pendiente')"));
+    }
+    auto& p = Common::Pantalla<PantallaConTransaccion>();
+    p.setGuardaDeTransaccion(guardada);
+    p.Show();
+    QString pregunta;
+    if (!respuesta.isEmpty())
+        entorno_->alMostrarModal([&](Formulario& d) {
+            pregunta = d.findChild<QLabel*>(QStringLiteral("lblPregunta"))->text();
+            for (QPushButton* b : d.findChildren<QPushButton*>())
+                if (b->text() == respuesta) QTest::mouseClick(b, Qt::LeftButton);
+        });
+    QTest::mouseClick(p.cmdClose, Qt::LeftButton);
+    QCOMPARE(p.descargado(), cierra);
+    QCOMPARE(entorno_->modalesMostradas.size(), respuesta.isEmpty() ? 0 : 1);
+    if (!respuesta.isEmpty())
+        QCOMPARE(pregunta, QStringLiteral("¿Hay una transaccion de datos activa\r\nDesea anularla?"));
+    const bool anulada = respuesta == QLatin1String("Aceptar");
+    QCOMPARE(Common::TransaccionActiva, (conTransaccion && !anulada) ? 1L : 0L);
+    QCOMPARE(cn.nivelTransaccion(), (conTransaccion && !anulada) ? 1 : 0);
+    if (cn.nivelTransaccion() > 0) cn.RollbackTrans();
+    QCOMPARE(base.valor(QStringLiteral("SELECT count(*) FROM Banco")), QStringLiteral("0"));
+    Common::TransaccionActiva = 0;
+    if (!p.descargado()) p.Unload();
+    cn.Close();
 }
 
 QTEST_MAIN(TstMarco)
