@@ -3,6 +3,7 @@
 // a Recordset over the same statement and walking it, reading every field. Prints both medians and
 // their ratio; near 1 means the grid adds little to what fetching the rows costs anyway.
 #include "BaseDePrueba.h"
+#include "Medicion.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/common/Common.h"
 #include "store/Conexion.h"
@@ -28,22 +29,6 @@ void llenar(const BaseDePrueba& base) {
                                "SELECT 'Refrigeradora ' || i, 'M-' || (i % 97), 'Blanco', i * 1.25, 20, 150 "
                                "FROM n;")
                     .arg(filas));
-}
-
-double mediana(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double conRecordset(store::Conexion& cn, long long& control) {
-    QElapsedTimer t;
-    t.start();
-    store::Recordset rs;
-    rs.Open(consulta, cn, store::adOpenStatic, store::adLockReadOnly);
-    for (; !rs.Eof(); rs.MoveNext())
-        for (int i = 0; i < rs.FieldCount(); ++i)
-            control += rs.Fields(i).Value().isValid();
-    return t.nsecsElapsed() / 1e6;
 }
 
 struct TiemposPantalla {
@@ -86,10 +71,10 @@ int main(int argc, char* argv[]) {
     cn.Open();
 
     long long control = 0;
-    conRecordset(cn, control); // warm the database's cache for both
+    recorrerConRecordset(cn, consulta, control); // warm the database's cache for both
     std::vector<double> tiemposRecordset, tiemposCarga, tiemposPantalla, tiemposRejilla;
     for (int i = 0; i < repeticiones; ++i) {
-        tiemposRecordset.push_back(conRecordset(cn, control));
+        tiemposRecordset.push_back(recorrerConRecordset(cn, consulta, control));
         const TiemposPantalla p = conPantalla(control);
         tiemposCarga.push_back(p.carga);
         tiemposPantalla.push_back(p.total);

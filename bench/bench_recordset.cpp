@@ -2,6 +2,7 @@
 // 100,000-row table and walk it, reading every field, against the SQLite C API doing the same in
 // the same run. Prints both medians and their ratio.
 #include "BaseDePrueba.h"
+#include "Medicion.h"
 #include "store/Conexion.h"
 #include "store/Recordset.h"
 
@@ -28,23 +29,6 @@ void llenar(const BaseDePrueba& base) {
                                "SELECT 'Refrigeradora ' || i, 'M-' || (i % 97), 'Blanco', i * 1.25, i % 40, "
                                "date('2026-01-01', '+' || (i % 365) || ' days') FROM n;")
                     .arg(filas));
-}
-
-double mediana(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-// Open, walk, read every field: what a search screen does with a whole view.
-double conRecordset(store::Conexion& cn, long long& control) {
-    QElapsedTimer t;
-    t.start();
-    store::Recordset rs;
-    rs.Open(QString::fromLatin1(consulta), cn, store::adOpenStatic, store::adLockReadOnly);
-    for (; !rs.Eof(); rs.MoveNext())
-        for (int i = 0; i < rs.FieldCount(); ++i)
-            control += rs.Fields(i).Value().isValid();
-    return t.nsecsElapsed() / 1e6;
 }
 
 double conSqlite(sqlite3* db, long long& control) {
@@ -88,7 +72,7 @@ int main(int argc, char* argv[]) {
     long long control = 0;
     std::vector<double> tiemposRecordset, tiemposSqlite;
     for (int i = 0; i < repeticiones; ++i) {
-        tiemposRecordset.push_back(conRecordset(cn, control));
+        tiemposRecordset.push_back(recorrerConRecordset(cn, QString::fromLatin1(consulta), control));
         tiemposSqlite.push_back(conSqlite(db, control));
     }
     sqlite3_close(db);

@@ -4,6 +4,7 @@
 // sizes: a figure near 1 is flat. The whole application list, which grows with the store, is
 // reported beside them.
 #include "BaseDePrueba.h"
+#include "Medicion.h"
 #include "TiendaSintetica.h"
 #include "store/Conexion.h"
 #include "store/Recordset.h"
@@ -37,11 +38,6 @@ const Busqueda busquedas[] = {
     {"vwReciboDetalle", "Select * From vwReciboDetalle Where ReciboID = %1", false},
     {"vwSaldosXNotaIngreso", "Select * From vwSaldosXNotaIngreso Where hidID = %1", true},
 };
-
-double mediana(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
 
 double abrir(store::Conexion& cn, const QString& sentencia) {
     QElapsedTimer t;
