@@ -68,12 +68,34 @@ private:
 
 struct Conexion::Datos {
     QString cadena;
+    QString origen; // the data source, as opened
     QString nombreConexion = nombreUnico();
     std::unique_ptr<sql::Dialecto> dialecto;
     std::unique_ptr<CatalogoDeBase> catalogo;
     int nivel = 0;
+    bool escribiendo = false; // the open transaction holds the write lock
+
+    // Which connection of this program holds each data source's write lock.
+    static QHash<QString, const Datos*>& titulares() {
+        static QHash<QString, const Datos*> t;
+        return t;
+    }
+    void tomarCerrojo() {
+        escribiendo = true;
+        titulares().insert(origen.toLower(), this);
+    }
+    void soltarCerrojo() {
+        if (escribiendo) titulares().remove(origen.toLower());
+        escribiendo = false;
+    }
+    // Runs one statement of the database's own SQL, outside the translator.
+    void ejecutarPropia(const QString& sentencia) {
+        QSqlQuery q(bd());
+        if (!q.exec(sentencia)) throw falloDeBase(q.lastError());
+    }
 
     ~Datos() {
+        soltarCerrojo();
         if (QSqlDatabase::contains(nombreConexion)) {
             QSqlDatabase::database(nombreConexion, false).close();
             QSqlDatabase::removeDatabase(nombreConexion);
@@ -153,6 +175,7 @@ void Conexion::Open(const QString& cadena, const QString& usuario, const QString
         throw Fallo(FalloConexion, error);
     }
     d_->catalogo = std::make_unique<CatalogoDeBase>(d_->nombreConexion);
+    d_->origen = origen;
     d_->nivel = 0;
 }
 
@@ -160,10 +183,14 @@ void Conexion::Close() {
     if (State() != adStateOpen)
         throw Fallo(FalloObjetoCerrado,
                     QStringLiteral("No se permite la operación cuando el objeto está cerrado."));
-    QSqlDatabase bd = d_->bd();
-    if (d_->nivel > 0) bd.rollback();
-    d_->nivel = 0;
-    bd.close();
+    if (d_->nivel > 0) {
+        try {
+            RollbackTrans();
+        } catch (const Fallo&) {
+            // Closing drops the transaction all the same.
+        }
+    }
+    d_->bd().close();
 }
 
 int Conexion::State() const {
@@ -183,9 +210,13 @@ QString Conexion::traducir(const QString& sentencia) const {
 }
 
 long Conexion::Execute(const QString& sentencia) {
-    const QString traducida = traducir(sentencia);
-    QSqlQuery q(d_->bd());
-    if (!q.exec(traducida)) throw Fallo(FalloGeneral, textoError(q.lastError()));
+    Datos& d = datosAbiertos();
+    // Parsed first: a statement the translator refuses takes no lock.
+    const sql::Sentencia analizada = sql::analizar(sentencia);
+    const QString traducida = d.dialecto->traducir(analizada, d.catalogo.get());
+    if (analizada.tipo != sql::Sentencia::Tipo::Select) prepararEscritura();
+    QSqlQuery q(d.bd());
+    if (!q.exec(traducida)) throw falloDeBase(q.lastError());
     return q.isSelect() ? -1 : q.numRowsAffected();
 }
 
@@ -196,18 +227,43 @@ int Conexion::BeginTrans() {
             FalloOperacionNoPermitida,
             QStringLiteral(
                 "Ya hay una transacción abierta en esta conexión: no se admiten transacciones anidadas."));
-    QSqlDatabase bd = d.bd();
-    if (!bd.transaction()) throw Fallo(FalloGeneral, textoError(bd.lastError()));
+    if (!d.dialecto->cerrojoAlEscribir()) {
+        QSqlDatabase bd = d.bd();
+        if (!bd.transaction()) throw falloDeBase(bd.lastError());
+    }
     d.nivel = 1;
     return d.nivel;
+}
+
+void Conexion::prepararEscritura() {
+    Datos& d = datosAbiertos();
+    if (!d.dialecto->cerrojoAlEscribir() || d.escribiendo) return;
+    const Datos* titular = Datos::titulares().value(d.origen.toLower());
+    if (titular && titular != &d)
+        throw Fallo(FalloBaseOcupada,
+                    QStringLiteral("La base de datos está ocupada por una transacción abierta en otra "
+                                   "pantalla. Termine esa pantalla (Guardar o Cancelar) y vuelva a "
+                                   "intentarlo: aquí no se perdió nada."));
+    if (d.nivel == 0) return;
+    d.ejecutarPropia(d.dialecto->inicioEscritura());
+    d.tomarCerrojo();
+}
+
+bool Conexion::escribiendo() const {
+    return d_->escribiendo;
 }
 
 void Conexion::CommitTrans() {
     Datos& d = datosAbiertos();
     if (d.nivel == 0)
         throw Fallo(FalloOperacionNoPermitida, QStringLiteral("No hay ninguna transacción activa."));
-    QSqlDatabase bd = d.bd();
-    if (!bd.commit()) throw Fallo(FalloGeneral, textoError(bd.lastError()));
+    if (d.escribiendo) {
+        d.ejecutarPropia(QStringLiteral("COMMIT"));
+        d.soltarCerrojo();
+    } else if (!d.dialecto->cerrojoAlEscribir()) {
+        QSqlDatabase bd = d.bd();
+        if (!bd.commit()) throw falloDeBase(bd.lastError());
+    }
     d.nivel = 0;
 }
 
@@ -215,9 +271,14 @@ void Conexion::RollbackTrans() {
     Datos& d = datosAbiertos();
     if (d.nivel == 0)
         throw Fallo(FalloOperacionNoPermitida, QStringLiteral("No hay ninguna transacción activa."));
-    QSqlDatabase bd = d.bd();
     d.nivel = 0;
-    if (!bd.rollback()) throw Fallo(FalloGeneral, textoError(bd.lastError()));
+    if (d.escribiendo) {
+        d.soltarCerrojo();
+        d.ejecutarPropia(QStringLiteral("ROLLBACK"));
+    } else if (!d.dialecto->cerrojoAlEscribir()) {
+        QSqlDatabase bd = d.bd();
+        if (!bd.rollback()) throw falloDeBase(bd.lastError());
+    }
 }
 
 int Conexion::nivelTransaccion() const {

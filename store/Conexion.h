@@ -30,11 +30,20 @@ public:
     // Runs a statement of the system's dialect; returns the number of rows it touched.
     long Execute(const QString& sentencia);
 
-    // Returns the nesting level: 1. A second BeginTrans while one is open is refused.
+    // Returns the nesting level: 1. A second BeginTrans while one is open is refused. Where the
+    // database has one writer at a time (SQLite) the transaction reads committed data until its first
+    // write and takes the write lock only then; see prepararEscritura.
     int BeginTrans();
     void CommitTrans();
     void RollbackTrans();
     int nivelTransaccion() const;
+    // Every statement that writes runs this first (Execute and a recordset's writes do). In an open
+    // transaction it takes the database's write lock; on any connection it refuses at once, with
+    // FalloBaseOcupada, a write that would only wait for another connection of this program holding
+    // that lock (the wait could never end while that connection's screen waits for the clerk).
+    void prepararEscritura();
+    // Whether this connection's transaction holds the database's write lock.
+    bool escribiendo() const;
 
     // Which database is behind the data source, learnt once when the connection opens.
     const sql::Dialecto& dialecto() const;

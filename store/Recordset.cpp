@@ -63,7 +63,7 @@ void Recordset::leer(const QString& fuente) {
 
     QSqlQuery q(conexion_.baseDatos());
     q.setForwardOnly(true);
-    if (!q.exec(traducida)) throw Fallo(FalloGeneral, textoError(q.lastError()));
+    if (!q.exec(traducida)) throw falloDeBase(q.lastError());
 
     ResultadoLeido leido = leerResultado(q);
 

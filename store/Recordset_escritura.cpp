@@ -19,10 +19,10 @@ namespace {
 
 QSqlQuery ejecutar(QSqlDatabase bd, const QString& sentencia, const QVariantList& valores) {
     QSqlQuery q(bd);
-    if (!q.prepare(sentencia)) throw Fallo(FalloGeneral, textoError(q.lastError()));
+    if (!q.prepare(sentencia)) throw falloDeBase(q.lastError());
     for (const QVariant& v : valores)
         q.addBindValue(v);
-    if (!q.exec()) throw Fallo(FalloGeneral, textoError(q.lastError()));
+    if (!q.exec()) throw falloDeBase(q.lastError());
     return q;
 }
 
@@ -38,8 +38,11 @@ void Recordset::exigirActualizable(const char* operacion) const {
                 .arg(QLatin1String(operacion)));
 }
 
+// The connection a write goes through, ready to write: inside its transaction, the write lock taken.
 QSqlDatabase Recordset::baseEscritura() const {
-    return conexion_.baseDatos();
+    Conexion escritura = conexion_;
+    escritura.prepararEscritura();
+    return escritura.baseDatos();
 }
 
 void Recordset::asignar(int campo, const QVariant& valor) {
@@ -174,7 +177,7 @@ void Recordset::Resync() {
     const sql::Dialecto& d = conexion_.dialecto();
     const QString sentencia = QStringLiteral("SELECT * FROM %1 WHERE %2 = ?")
                                   .arg(d.identificador(tabla_->tabla), d.identificador(tabla_->clave));
-    QSqlQuery q = ejecutar(baseEscritura(), sentencia, {filas_[pos_][tabla_->indiceClave]});
+    QSqlQuery q = ejecutar(conexion_.baseDatos(), sentencia, {filas_[pos_][tabla_->indiceClave]});
     if (!q.next()) rechazarFilaCambiada();
     const QSqlRecord registro = q.record();
     for (int i = 0; i < nombres_.size(); ++i) {

@@ -32,6 +32,12 @@ public:
 
     QString traducir(const Sentencia& sentencia, const Catalogo* catalogo = nullptr) const;
 
+    // Whether a transaction takes the database's write lock only at its first write, reading committed
+    // data until then (a database with one writer at a time, whose read snapshot a transaction would
+    // otherwise pin at its first read). The statements that take the lock, keep and drop it.
+    virtual bool cerrojoAlEscribir() const { return false; }
+    virtual QString inicioEscritura() const { return {}; }
+
     // A quoted identifier when the name needs it.
     virtual QString identificador(const QString& nombre, bool forzarComillas = false) const;
     // "columna <null-safe => ?": finds a row by a value that may be Null.

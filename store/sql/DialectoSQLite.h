@@ -9,6 +9,11 @@ class DialectoSQLite : public Dialecto {
 public:
     QString nombre() const override { return QStringLiteral("SQLite"); }
 
+    // One writer at a time: the shared transaction reads committed data until it first writes, and
+    // only then takes the write lock, so that another connection may commit meanwhile.
+    bool cerrojoAlEscribir() const override { return true; }
+    QString inicioEscritura() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+
     QString igualdadSegura(const QString& columnaCitada) const override;
     QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const override;
 

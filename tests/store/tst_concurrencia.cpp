@@ -1,0 +1,238 @@
+// Two connections to one database file, as the screens use them side by side: the shared connection
+// with the transaction of the screen being edited, and a data control's own connection that saves at
+// once. The shared transaction reads committed data until it first writes; only then does it hold the
+// write lock, and a write elsewhere is refused at once with a failure the clerk can act on.
+#include "BaseDePrueba.h"
+#include "NumeroDelFallo.h"
+#include "runtime/Conversion.h"
+#include "store/Conexion.h"
+#include "store/Fallo.h"
+#include "store/Recordset.h"
+
+#include <QtTest>
+#include <sqlite3.h>
+
+using namespace store;
+
+namespace {
+
+QString leer(Conexion& cn, const QString& sentencia) {
+    Recordset rs;
+    rs.Open(sentencia, cn, adOpenStatic, adLockReadOnly);
+    return rs.Eof() ? QStringLiteral("<ninguna>") : runtime::TextoDe(rs.Fields(0).Value());
+}
+
+} // namespace
+
+class TstConcurrencia : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void fiadorNuevoBajoUnaSolicitud();
+    void aprobarMientrasOtraPantallaEdita();
+    void escrituraAjenaMientrasHayMoraPendiente_data();
+    void escrituraAjenaMientrasHayMoraPendiente();
+    void cancelarSueltaLaBase_data();
+    void cancelarSueltaLaBase();
+    void bloqueoDeOtroProgramaEsBaseOcupada();
+    void sentenciaRechazadaNoTomaLaBase();
+
+private:
+    std::unique_ptr<BaseDePrueba> base_;
+    // The shared connection (DE's CN) and a data control's own one.
+    Conexion cn_{QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=DSNBrenal;")};
+    Conexion otra_{QStringLiteral("DSN=DSNBrenal")};
+};
+
+void TstConcurrencia::init() {
+    base_ = std::make_unique<BaseDePrueba>(true);
+    base_->sqlite(
+        QStringLiteral("INSERT INTO Cliente (ClienteID, Nombres, Apellidos) VALUES (1, 'Rosa', 'Pérez');"
+                       "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, Estado, Mora) "
+                       "VALUES (1, 7, '2026-11-02', 1, 0, 0);"
+                       "INSERT INTO Banco (BancoID, Nombre) VALUES (1, 'Banco Industrial');"));
+    cn_.Open();
+    otra_.Open();
+}
+
+void TstConcurrencia::cleanup() {
+    for (Conexion* c : {&cn_, &otra_})
+        if (c->State() == adStateOpen) c->Close();
+    base_.reset();
+}
+
+// The guarantor screen saves on its own connection while an application is being entered; the
+// application then finds the new guarantor and saves with it.
+void TstConcurrencia::fiadorNuevoBajoUnaSolicitud() {
+    cn_.BeginTrans();
+    QCOMPARE(leer(cn_, QStringLiteral("Select Max(NumeroSolicitud) as Maximo From Solicitud Where "
+                                      "SolicitudID>0")),
+             QStringLiteral("7"));
+    Recordset solicitud;
+    solicitud.Open(QStringLiteral("Select * From Solicitud Where SolicitudID < 0"), otra_);
+    solicitud.setActiveConnection(cn_);
+    solicitud.AddNew();
+    solicitud.Fields(QStringLiteral("NumeroSolicitud")) = 8;
+
+    Recordset fiador;
+    fiador.Open(QStringLiteral("Select * From Fiador Where FiadorID < 0"), otra_);
+    fiador.AddNew();
+    fiador.Fields(QStringLiteral("Nombres")) = QStringLiteral("Ana");
+    fiador.Update();
+    fiador.Resync();
+    const QString id = runtime::TextoDe(fiador.Fields(QStringLiteral("FiadorID")).Value());
+
+    QCOMPARE(leer(cn_, QStringLiteral("Select Nombres From Fiador Where FiadorID = ") + id),
+             QStringLiteral("Ana"));
+    solicitud.Fields(QStringLiteral("FiadorID")) = id;
+    solicitud.Update();
+    cn_.Execute(QStringLiteral("Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) "
+                               "Values (1, 0, 1, 10)"));
+    cn_.CommitTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT FiadorID FROM Solicitud WHERE NumeroSolicitud = 8")), id);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT count(*) FROM SolicitudDetalle")), QStringLiteral("1"));
+}
+
+// An approval saved through the application's own connection while another screen is in the middle
+// of an edit on the shared one: both go through, and the edit sees the approval.
+void TstConcurrencia::aprobarMientrasOtraPantallaEdita() {
+    cn_.BeginTrans();
+    QCOMPARE(leer(cn_, QStringLiteral("Select Estado From Solicitud Where SolicitudID = 1")),
+             QStringLiteral("0"));
+
+    Recordset solicitud;
+    solicitud.Open(QStringLiteral("Select * From Solicitud Where SolicitudID = 1"), otra_);
+    solicitud.Fields(QStringLiteral("Estado")) = 1;
+    solicitud.Update();
+
+    QCOMPARE(leer(cn_, QStringLiteral("Select Estado From Solicitud Where SolicitudID = 1")),
+             QStringLiteral("1"));
+    cn_.Execute(QStringLiteral("Update Cliente Set NIT = '123-4' Where ClienteID = 1"));
+    cn_.CommitTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Estado FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("1"));
+    QCOMPARE(base_->valor(QStringLiteral("SELECT NIT FROM Cliente WHERE ClienteID = 1")),
+             QStringLiteral("123-4"));
+}
+
+void TstConcurrencia::escrituraAjenaMientrasHayMoraPendiente_data() {
+    QTest::addColumn<QString>("escritura");
+    QTest::newRow("agregar un banco") << "agregar";
+    QTest::newRow("modificar un banco") << "modificar";
+    QTest::newRow("eliminar un banco") << "eliminar";
+    QTest::newRow("sentencia en otra conexion") << "sentencia";
+}
+
+// A receipt added mora to its application inside the shared transaction, which now holds the write
+// lock. A save through another connection is refused at once, as busy (never as the database's
+// general refusal, which a screen would read as a broken relation), with the edit still pending;
+// once the receipt is saved the same save goes through.
+void TstConcurrencia::escrituraAjenaMientrasHayMoraPendiente() {
+    QFETCH(QString, escritura);
+    cn_.BeginTrans();
+    cn_.Execute(QStringLiteral("Update Solicitud Set Mora = Mora + 25 Where SolicitudID = 1"));
+    QVERIFY(cn_.escribiendo());
+
+    Recordset banco;
+    banco.Open(escritura == QLatin1String("agregar")
+                   ? QStringLiteral("Select * From Banco Where BancoID < 0")
+                   : QStringLiteral("Select * From Banco Where BancoID = 1"),
+               otra_);
+    std::function<void()> guardar;
+    if (escritura == QLatin1String("agregar")) {
+        banco.AddNew();
+        banco.Fields(QStringLiteral("Nombre")) = QStringLiteral("Banrural");
+        guardar = [&] { banco.Update(); };
+    } else if (escritura == QLatin1String("modificar")) {
+        banco.Fields(QStringLiteral("Nombre")) = QStringLiteral("Banrural");
+        guardar = [&] { banco.Update(); };
+    } else if (escritura == QLatin1String("eliminar")) {
+        guardar = [&] { banco.Delete(); };
+    } else {
+        guardar = [&] { otra_.Execute(QStringLiteral("Update Banco Set Nombre = 'Banrural'")); };
+    }
+
+    try {
+        guardar();
+        QFAIL("a write under another connection's lock went through");
+    } catch (const Fallo& f) {
+        QCOMPARE(f.numeroHex(), QStringLiteral("80040E31"));
+        QVERIFY2(f.descripcion().contains(QLatin1String("ocupada")), qPrintable(f.descripcion()));
+    }
+    if (escritura == QLatin1String("agregar")) QCOMPARE(banco.EditMode(), int(adEditAdd));
+    if (escritura == QLatin1String("modificar")) QCOMPARE(banco.EditMode(), int(adEditInProgress));
+
+    cn_.CommitTrans();
+    QVERIFY(!cn_.escribiendo());
+    guardar();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("25.0"));
+    const QString bancos = base_->valor(QStringLiteral("SELECT group_concat(Nombre, ',') FROM Banco"));
+    QCOMPARE(bancos, escritura == QLatin1String("agregar")    ? QStringLiteral("Banco Industrial,Banrural")
+                     : escritura == QLatin1String("eliminar") ? QString()
+                                                              : QStringLiteral("Banrural"));
+}
+
+void TstConcurrencia::cancelarSueltaLaBase_data() {
+    QTest::addColumn<bool>("escribio");
+    QTest::newRow("sin haber escrito") << false;
+    QTest::newRow("despues de escribir") << true;
+}
+
+// "Cancelar" undoes what the transaction wrote and frees the database for the other connections.
+void TstConcurrencia::cancelarSueltaLaBase() {
+    QFETCH(bool, escribio);
+    QCOMPARE(cn_.BeginTrans(), 1);
+    if (escribio) cn_.Execute(QStringLiteral("Update Solicitud Set Mora = 40 Where SolicitudID = 1"));
+    QCOMPARE(cn_.escribiendo(), escribio);
+    cn_.RollbackTrans();
+    QCOMPARE(cn_.nivelTransaccion(), 0);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("0.0"));
+    otra_.Execute(QStringLiteral("Update Banco Set Nombre = 'Banrural'"));
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Nombre FROM Banco")), QStringLiteral("Banrural"));
+    // And the next transaction begins afresh.
+    QCOMPARE(cn_.BeginTrans(), 1);
+    cn_.Execute(QStringLiteral("Update Solicitud Set Mora = 5 Where SolicitudID = 1"));
+    cn_.CommitTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("5.0"));
+}
+
+// Another program (or workstation) holding the write lock: the driver waits its time-out and the
+// write fails as busy, with nothing written; once the lock goes, the same write goes through.
+void TstConcurrencia::bloqueoDeOtroProgramaEsBaseOcupada() {
+    sqlite3* ajena = nullptr;
+    QCOMPARE(sqlite3_open(base_->archivo().toUtf8().constData(), &ajena), SQLITE_OK);
+    QCOMPARE(sqlite3_exec(ajena, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+
+    cn_.BeginTrans();
+    const auto mora = [&] {
+        cn_.Execute(QStringLiteral("Update Solicitud Set Mora = 9 Where SolicitudID = 1"));
+    };
+    QCOMPARE(QString::number(static_cast<quint32>(numeroDelFallo(mora)), 16).toUpper(),
+             QStringLiteral("80040E31"));
+    QVERIFY(!cn_.escribiendo());
+
+    QCOMPARE(sqlite3_exec(ajena, "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(ajena);
+    mora();
+    cn_.CommitTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("9.0"));
+}
+
+// A statement the translator refuses never reaches the database, so it takes no lock either.
+void TstConcurrencia::sentenciaRechazadaNoTomaLaBase() {
+    cn_.BeginTrans();
+    QCOMPARE(numeroDelFallo([&] { cn_.Execute(QStringLiteral("Update Banco Set Nombre = 'x")); }),
+             FalloSintaxis);
+    QVERIFY(!cn_.escribiendo());
+    otra_.Execute(QStringLiteral("Update Banco Set Nombre = 'Banrural'"));
+    cn_.RollbackTrans();
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Nombre FROM Banco")), QStringLiteral("Banrural"));
+}
+
+QTEST_GUILESS_MAIN(TstConcurrencia)
+#include "tst_concurrencia.moc"
