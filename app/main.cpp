@@ -2,7 +2,7 @@
 // hands over to Main: the splash, the main window, and the event loop until the program is ended.
 #include "shell/principal/Main.h"
 
-#include "catalogs/Catalogos.h"
+#include "app/Registro.h"
 #include "shell/principal/Apariencia.h"
 
 #include <QApplication>
@@ -12,7 +12,7 @@ int main(int argc, char* argv[]) {
     shell::AplicarApariencia(CC_VERSION);
     // The main window lives on; closing the last screen does not end the program, only "Salida" does.
     QApplication::setQuitOnLastWindowClosed(false);
-    catalogos::registrarPantallas();
+    aplicacion::RegistrarPantallas();
     shell::Main();
     return QApplication::exec();
 }

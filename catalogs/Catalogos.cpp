@@ -11,6 +11,10 @@ namespace catalogos {
 void registrarPantallas() {
     shell::frmMain::registrarPantalla(QStringLiteral("frmBanco"),
                                       [] { Common::Pantalla<frmBanco>().Show(); });
+    shell::frmMain::registrarPantalla(QStringLiteral("frmProveedor"),
+                                      [] { Common::Pantalla<frmProveedor>().Show(); });
+    shell::frmMain::registrarPantalla(QStringLiteral("frmArticulo"),
+                                      [] { Common::Pantalla<frmArticulo>().Show(); });
 }
 
 } // namespace catalogos

@@ -30,12 +30,19 @@ QString textoPrecio(bool porPorcentaje, double costo, const QString& porcentaje,
     return runtime::Format(p, QStringLiteral("#0.00"));
 }
 
+// Five buttons with indexes of their own: "Guardar" stands where "Buscar" stands, "Cancelar" where
+// "Modificar" stands.
+const QList<BotonDeBarra> kBarraArticulo = {{0, QStringLiteral("Buscar"), 120},
+                                            {1, QStringLiteral("Modificar"), 1440},
+                                            {2, QStringLiteral("Imprimir"), 2760},
+                                            {3, QStringLiteral("Guardar"), 120},
+                                            {4, QStringLiteral("Cancelar"), 1440}};
+
 } // namespace
 
 frmArticulo::frmArticulo()
-    : Marco(QStringLiteral("Artículos"), 7200, 4700) {
+    : PantallaRegistro(QStringLiteral("Artículos"), 7200, 4700, kBarraArticulo) {
     setObjectName(QStringLiteral("frmArticulo"));
-    setKeyPreview(true);
     adoArticulo = new store::Adodc(this);
     adoArticulo->setObjectName(QStringLiteral("adoArticulo"));
     adoArticulo->setRecordSource(QStringLiteral("Select * From Articulo Where ArticuloID <0"));
@@ -84,28 +91,19 @@ frmArticulo::frmArticulo()
     enlazar(txtContadoValor, adoArticulo, QStringLiteral("ContadoValor"));
     enlazar(txtCreditoPorcentaje, adoArticulo, QStringLiteral("CreditoPorcentaje"));
     enlazar(txtCreditoValor, adoArticulo, QStringLiteral("CreditoValor"));
-
-    crearBoton(0, QStringLiteral("Buscar"), 120);
-    crearBoton(1, QStringLiteral("Modificar"), 1440);
-    crearBoton(2, QStringLiteral("Imprimir"), 2760);
-    crearBoton(3, QStringLiteral("Guardar"), 120, false);
-    crearBoton(4, QStringLiteral("Cancelar"), 1440, false);
 }
 
 // One margin's frame: its two options over the percentage box (left) and the amount box (right).
-QGroupBox* frmArticulo::margen(const QString& titulo, double left, QRadioButton* (&opciones)[2],
+QGroupBox* frmArticulo::margen(const QString& titulo, double left, ArregloDeOpciones*& opciones,
                                const QString& nombreOpcion, CajaTexto*& porcentaje,
                                const QString& nombrePorcentaje, CajaTexto*& valor,
                                const QString& nombreValor) {
     auto* marco = new QGroupBox(titulo, fraMain);
     marco->setObjectName(QStringLiteral("fra") + titulo.left(titulo.size() - 1));
     colocar(marco, left, 0, 3000, 1200);
-    const QString rotulos[2] = {QStringLiteral("Porcentaje"), QStringLiteral("Valor")};
-    for (int i = 0; i < 2; ++i) {
-        opciones[i] = new QRadioButton(rotulos[i], marco);
-        opciones[i]->setObjectName(QStringLiteral("%1(%2)").arg(nombreOpcion).arg(i));
-        colocar(opciones[i], 120 + i * 1560, 300, 1300, 255);
-    }
+    opciones = new ArregloDeOpciones(nombreOpcion, this);
+    opciones->agregar(0, QStringLiteral("Porcentaje"), marco, 120, 300, 1300);
+    opciones->agregar(1, QStringLiteral("Valor"), marco, 1680, 300, 1300);
     porcentaje = new CajaTexto(marco);
     porcentaje->setObjectName(nombrePorcentaje);
     valor = new CajaTexto(marco);
@@ -117,14 +115,11 @@ QGroupBox* frmArticulo::margen(const QString& titulo, double left, QRadioButton*
         SeleccionarTodoAlEntrar(caja);
         NumeroAlSalir(caja);
     }
-    const bool esContado = nombreOpcion == QLatin1String("optContado");
-    for (int i = 0; i < 2; ++i)
-        connect(opciones[i], &QRadioButton::toggled, this, [this, esContado, i](bool elegida) {
-            if (!elegida) return;
-            Common::Manejar([=, this] { esContado ? optContado_Click(i) : optCredito_Click(i); });
-        });
-    opciones[0]->setChecked(true);
-    valor->hide();
+    if (nombreOpcion == QLatin1String("optContado"))
+        opciones->alHacerClic([this](int Index) { optContado_Click(Index); });
+    else
+        opciones->alHacerClic([this](int Index) { optCredito_Click(Index); });
+    opciones->Seleccionar(0);
     return marco;
 }
 
@@ -152,12 +147,12 @@ void frmArticulo::MostrarPrecios() {
     const double C = runtime::Val(txtCosto->Text());
     const bool contadoPorPorcentaje =
         runtime::ValNulo(rs.Fields(QStringLiteral("ContadoPorcentaje")).Value()) > 0;
-    optContado[contadoPorPorcentaje ? 0 : 1]->setChecked(true);
+    optContado->Seleccionar(contadoPorPorcentaje ? 0 : 1);
     lblContadoPrecio->setText(
         textoPrecio(contadoPorPorcentaje, C, txtContadoPorcentaje->Text(), txtContadoValor->Text()));
     const bool creditoPorPorcentaje =
         runtime::ValNulo(rs.Fields(QStringLiteral("CreditoPorcentaje")).Value()) > 0;
-    optCredito[creditoPorPorcentaje ? 0 : 1]->setChecked(true);
+    optCredito->Seleccionar(creditoPorPorcentaje ? 0 : 1);
     lblCreditoPrecio->setText(
         textoPrecio(creditoPorPorcentaje, C, txtCreditoPorcentaje->Text(), txtCreditoValor->Text()));
 }
@@ -188,16 +183,6 @@ void frmArticulo::cmdBoton_Click(int Index) {
         // Deliberately no CancelUpdate: what was typed stays until the next search.
         ModoConsulta();
     }
-}
-
-// "Guardar" and "Cancelar" are buttons 3 and 4 on this bar.
-void frmArticulo::ModoEdicion(const QString& estado) {
-    mostrarEdicion(estado, 3, 4);
-}
-
-void frmArticulo::ModoConsulta() {
-    Agregando = false;
-    mostrarConsulta(3, 4);
 }
 
 void frmArticulo::Buscar() {

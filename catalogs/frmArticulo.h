@@ -1,12 +1,12 @@
 #pragma once
 
+#include "shell/controles/ArregloDeOpciones.h"
 #include "shell/controles/CajaTexto.h"
-#include "shell/marco/Marco.h"
+#include "shell/marco/PantallaRegistro.h"
 #include "store/Adodc.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QRadioButton>
 
 namespace catalogos {
 
@@ -14,7 +14,7 @@ namespace catalogos {
 // and credit, is held as a percentage of cost or as an amount over it: the percentage rules when it is
 // above 0. The bar has five buttons of its own: 0 "Buscar", 1 "Modificar", 2 "Imprimir" to browse,
 // 3 "Guardar" and 4 "Cancelar" to edit, standing where 0 and 1 stand. No transaction, no handler.
-class frmArticulo : public shell::Marco {
+class frmArticulo : public shell::PantallaRegistro {
     Q_OBJECT
 public:
     frmArticulo();
@@ -26,8 +26,8 @@ public:
     shell::CajaTexto* txtColor;
     shell::CajaTexto* txtCosto;
     QCheckBox* chkActivo;
-    QRadioButton* optContado[2];
-    QRadioButton* optCredito[2];
+    shell::ArregloDeOpciones* optContado;
+    shell::ArregloDeOpciones* optCredito;
     shell::CajaTexto* txtContadoPorcentaje;
     shell::CajaTexto* txtContadoValor;
     shell::CajaTexto* txtCreditoPorcentaje;
@@ -35,8 +35,6 @@ public:
     QLabel* lblExistencia;
     QLabel* lblContadoPrecio;
     QLabel* lblCreditoPrecio;
-
-    bool Agregando = false;
 
     void optContado_Click(int Index);
     void optCredito_Click(int Index);
@@ -48,9 +46,7 @@ protected:
 private:
     void MostrarPrecios();
     void Buscar();
-    void ModoEdicion(const QString& estado);
-    void ModoConsulta();
-    QGroupBox* margen(const QString& titulo, double left, QRadioButton* (&opciones)[2],
+    QGroupBox* margen(const QString& titulo, double left, shell::ArregloDeOpciones*& opciones,
                       const QString& nombreOpcion, shell::CajaTexto*& porcentaje,
                       const QString& nombrePorcentaje, shell::CajaTexto*& valor, const QString& nombreValor);
 };

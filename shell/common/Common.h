@@ -46,6 +46,16 @@ template <class T> T& Pantalla() {
     }
     return *instancia;
 }
+// The shared instance of a screen that is about to be shown modally (a screen opening another one
+// that the clerk may have open from the menu already). A screen standing open with nothing pending is
+// unloaded first, so that it loads anew and reads the Common values its caller has just set; one with
+// changes pending is kept as it is, and its ShowModal tells the clerk to finish there first.
+template <class T> T& PantallaModal() {
+    T& abierta = Pantalla<T>();
+    if (abierta.isVisible() && !abierta.isModal() && !abierta.tieneCambiosPendientes()) abierta.Unload();
+    return Pantalla<T>();
+}
+
 // Paint a screen's title strip (lblTitulo and cmdClose) active or inactive.
 void ResaltarTitulo(shell::Formulario& pantalla);
 void AtenuarTitulo(shell::Formulario& pantalla);
@@ -62,8 +72,12 @@ void FalloFatal(const store::Fallo& fallo);
 using GanchoFatal = std::function<void(const store::Fallo&)>;
 void InstalarGanchoFatal(GanchoFatal gancho);
 
-// Every handler entry point runs through here, so that no exception crosses Qt's event loop.
+// Every handler entry point runs through here, so that no exception crosses Qt's event loop. A
+// database busy with another connection's transaction (FalloBaseOcupada) is no fault of the program:
+// the clerk reads why through MostrarMensaje on the screen whose handler ran (given, or else the one
+// with the focus), and the screen stays as it was, its edit pending, for the step to be tried again.
 void Manejar(const std::function<void()>& manejador);
+void Manejar(shell::Formulario& pantalla, const std::function<void()>& manejador);
 
 // Ends the program at once: no screen unloads, no question, no rollback. Tests install a hook that
 // records the end instead.

@@ -2,11 +2,13 @@
 
 #include "shell/common/Common.h"
 #include "shell/common/Twips.h"
+#include "shell/dialogos/Dialogos.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 
 namespace shell {
 
@@ -47,7 +49,7 @@ void Formulario::Move(double left, double top) {
 void Formulario::cargar() {
     if (cargado_) return;
     cargado_ = true;
-    Common::Manejar([this] { Form_Load(); });
+    Common::Manejar(*this, [this] { Form_Load(); });
 }
 
 void Formulario::Show() {
@@ -64,13 +66,20 @@ void Formulario::traerAlFrente() {
 
 void Formulario::ShowModal() {
     cargar();
+    if (isVisible() && !isModal()) {
+        Common::MostrarMensaje(windowTitle(),
+                               QStringLiteral("Esta pantalla ya está abierta con cambios sin guardar. "
+                                              "Termínelos (Guardar o Cancelar) y vuelva a intentarlo."),
+                               *this);
+        return;
+    }
     Common::MostrarModal(*this);
 }
 
 bool Formulario::Unload() {
     if (descargado_) return true;
     bool cancelar = false;
-    Common::Manejar([&] { Form_QueryUnload(cancelar); });
+    Common::Manejar(*this, [&] { Form_QueryUnload(cancelar); });
     if (cancelar) return false;
     descargado_ = true;
     hide();
@@ -88,7 +97,8 @@ void Formulario::closeEvent(QCloseEvent* evento) {
 }
 
 // Enter on a focused push button presses it, on every screen. With KeyPreview, Enter anywhere else
-// is swallowed and moves on as Tab does.
+// (a check box or an option button too, which Enter must not toggle) is swallowed and moves on as
+// Tab does.
 bool Formulario::eventFilter(QObject* objeto, QEvent* evento) {
     if (descargado_) return false;
     // A button pressed by its Alt+letter shortcut takes the focus first, as a click does, so that the
@@ -104,7 +114,7 @@ bool Formulario::eventFilter(QObject* objeto, QEvent* evento) {
     if (!control || control->window() != this || control == this) return false;
     const auto* tecla = static_cast<QKeyEvent*>(evento);
     if (tecla->key() != Qt::Key_Return && tecla->key() != Qt::Key_Enter) return false;
-    if (auto* boton = qobject_cast<QAbstractButton*>(control)) {
+    if (auto* boton = qobject_cast<QPushButton*>(control)) {
         boton->click();
         return true;
     }

@@ -29,15 +29,20 @@ public:
     void Show();
     // Raises and activates the window (a screen already open is only brought forward).
     void traerAlFrente();
+    // Shows the screen modally. A screen standing open modelessly with changes pending (Common's
+    // PantallaModal keeps only such a one) is not shown: the clerk is told to finish there first.
     void ShowModal();
     // Returns false when Form_QueryUnload cancelled it.
     bool Unload();
     bool descargado() const { return descargado_; }
+    // Whether the screen holds something the clerk has typed and not saved (a record screen editing).
+    virtual bool tieneCambiosPendientes() const { return false; }
 
     // Runs Form_Load once, through the handler wrapper. Common calls it on first access.
     void cargar();
 
-    // With KeyPreview, Enter in a control that is not a push button moves on as Tab does.
+    // With KeyPreview, Enter in a control that is not a push button (a text box, a check box, an
+    // option button...) moves on as Tab does.
     void setKeyPreview(bool activo) { keyPreview_ = activo; }
     bool KeyPreview() const { return keyPreview_; }
 

@@ -14,15 +14,15 @@ constexpr double kAltoTitulo = 330;
 constexpr double kAltoBarra = 615;
 constexpr double kAnchoEstado = 2400;
 
-void pintarFondo(QWidget* control, const QColor& color) {
+} // namespace
+
+void PintarPanel(QWidget* control) {
     QPalette p = control->palette();
-    p.setColor(QPalette::Window, color);
-    p.setColor(QPalette::Button, color);
+    p.setColor(QPalette::Window, Marco::kColorBarra);
+    p.setColor(QPalette::Button, Marco::kColorBarra);
     control->setPalette(p);
     control->setAutoFillBackground(true);
 }
-
-} // namespace
 
 Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
     : Formulario(parent) {
@@ -39,10 +39,12 @@ Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
     cmdClose->setIcon(Iconos::para(QStringLiteral("Cerrar")));
     cmdClose->setFocusPolicy(Qt::NoFocus);
     colocar(cmdClose, ancho - kAltoTitulo, 0, kAltoTitulo, kAltoTitulo);
-    connect(cmdClose, &QPushButton::clicked, this, [this] { Common::Manejar([this] { cmdClose_Click(); }); });
+    connect(cmdClose, &QPushButton::clicked, this,
+            [this] { Common::Manejar(*this, [this] { cmdClose_Click(); }); });
 
     fraMain = new QFrame(this);
     fraMain->setObjectName(QStringLiteral("fraMain"));
+    controlesDeEdicion_ << fraMain;
     fraMain->setFrameShape(QFrame::StyledPanel);
     // While browsing the frame is disabled so that its fields take no input, but what they show
     // stays as readable as when editing.
@@ -69,10 +71,17 @@ Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
 void Marco::AjustarPantalla() {
     AjustarTituloYBarra();
     lblEstado->move(px(anchoTw(fraBarra) - anchoTw(lblEstado) - 150), lblEstado->y());
-    const double arriba = altoTw(lblTitulo) + 120;
-    colocar(fraMain, 120, arriba, Width() - 270, topTw(fraBarra) - arriba - 120);
-    fraMain->setEnabled(false);
-    pintarFondo(lblEstado, kColorBarra);
+    if (colocarFraMain_) {
+        const double arriba = altoTw(lblTitulo) + 120;
+        colocar(fraMain, 120, arriba, Width() - 270, topTw(fraBarra) - arriba - 120);
+    }
+    HabilitarEdicion(false);
+    PintarPanel(lblEstado);
+}
+
+void Marco::HabilitarEdicion(bool habilitar) {
+    for (QWidget* c : controlesDeEdicion_)
+        c->setEnabled(habilitar);
 }
 
 void Marco::AjustarTituloYBarra() {
@@ -82,28 +91,9 @@ void Marco::AjustarTituloYBarra() {
     cmdClose->resize(cmdClose->width(), lblTitulo->height());
     cmdClose->move(px(W - anchoTw(cmdClose)), cmdClose->y());
     colocar(fraBarra, 0, H - altoTw(fraBarra) - 20, W - 20, altoTw(fraBarra));
-    pintarFondo(fraBarra, kColorBarra);
+    PintarPanel(fraBarra);
     for (QPushButton* b : cmdBoton)
-        if (b) pintarFondo(b, kColorBarra);
-}
-
-void Marco::mostrarEdicion(const QString& estado, int guardar, int cancelar) {
-    lblEstado->setText(estado);
-    lblEstado->show();
-    for (QPushButton* b : cmdBoton)
-        b->hide();
-    cmdBoton[guardar]->show();
-    cmdBoton[cancelar]->show();
-    fraMain->setEnabled(true);
-}
-
-void Marco::mostrarConsulta(int guardar, int cancelar) {
-    lblEstado->hide();
-    for (QPushButton* b : cmdBoton)
-        b->show();
-    cmdBoton[guardar]->hide();
-    cmdBoton[cancelar]->hide();
-    fraMain->setEnabled(false);
+        if (b) PintarPanel(b);
 }
 
 QPushButton* Marco::crearBoton(int indice, const QString& caption, double left, bool visible, double ancho) {
@@ -116,7 +106,7 @@ QPushButton* Marco::crearBoton(int indice, const QString& caption, double left, 
         cmdBoton << nullptr;
     cmdBoton[indice] = boton;
     connect(boton, &QPushButton::clicked, this,
-            [this, indice] { Common::Manejar([this, indice] { cmdBoton_Click(indice); }); });
+            [this, indice] { Common::Manejar(*this, [this, indice] { cmdBoton_Click(indice); }); });
     return boton;
 }
 

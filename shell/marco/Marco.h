@@ -10,6 +10,9 @@
 
 namespace shell {
 
+// Paints a panel, a bar or its buttons in the bar's colour, 216,212,208.
+void PintarPanel(QWidget* control);
+
 // The chrome every screen and dialog wears: the title strip lblTitulo with its close box cmdClose,
 // the working frame fraMain, the bar fraBarra along the foot with its buttons cmdBoton(i) and the
 // mode word lblEstado. Lengths in twips; each control's objectName is its given name.
@@ -28,7 +31,8 @@ public:
     static const QColor kColorBarra; // 216,212,208
 
     // The standard layout, in this order: title and close box across the top, the bar along the foot,
-    // the mode word at its right, fraMain filling the rest (disabled), the bar's colours.
+    // the mode word at its right, fraMain filling the rest (unless the screen places its own frames),
+    // every control that takes input only while editing disabled, the bar's colours.
     void AjustarPantalla();
     // Its first part alone, for the screens with no mode word or working frame of their own: the title
     // with one blank and the close box, the bar along the foot, the bar's colours.
@@ -49,11 +53,13 @@ protected:
         return c;
     }
 
-    // The two modes of a screen that edits rows: editing shows only the two edit buttons (standing
-    // where the first two browse buttons stand), the mode word and an enabled fraMain; browsing shows
-    // every other button and disables fraMain.
-    void mostrarEdicion(const QString& estado, int guardar, int cancelar);
-    void mostrarConsulta(int guardar, int cancelar);
+    // A screen whose frames stand where its design puts them (a frame array, a second frame beside
+    // fraMain) keeps them there: AjustarPantalla does not stretch fraMain over the working area.
+    void setColocarFraMain(bool colocar) { colocarFraMain_ = colocar; }
+    // The controls that take input only while editing: fraMain, and whatever the screen adds (a second
+    // frame, the buttons that bind a client, a panel), enabled and disabled together.
+    void HabilitarAlEditar(QWidget* control) { controlesDeEdicion_ << control; }
+    void HabilitarEdicion(bool habilitar);
 
     virtual void cmdBoton_Click(int Index) { Q_UNUSED(Index); }
     virtual void cmdClose_Click() { Unload(); }
@@ -61,6 +67,8 @@ protected:
 private:
     static void colocarEn(QWidget* c, double left, double top, double ancho, double alto);
     int etiquetas_ = 0;
+    bool colocarFraMain_ = true;
+    QList<QWidget*> controlesDeEdicion_;
 };
 
 } // namespace shell

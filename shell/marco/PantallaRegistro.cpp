@@ -5,26 +5,48 @@
 
 namespace shell {
 
-const QStringList PantallaRegistro::kCaptions = {QStringLiteral("Buscar"),    QStringLiteral("Agregar"),
-                                                 QStringLiteral("Modificar"), QStringLiteral("Eliminar"),
-                                                 QStringLiteral("Imprimir"),  QStringLiteral("Guardar"),
-                                                 QStringLiteral("Cancelar")};
+namespace {
+const QString kGuardar = QStringLiteral("Guardar");
+const QString kCancelar = QStringLiteral("Cancelar");
+} // namespace
 
-PantallaRegistro::PantallaRegistro(const QString& titulo, double ancho, double alto, QWidget* parent)
+const QList<BotonDeBarra> PantallaRegistro::kBarraComun = {{0, QStringLiteral("Buscar"), 120},
+                                                           {1, QStringLiteral("Agregar"), 1440},
+                                                           {2, QStringLiteral("Modificar"), 2760},
+                                                           {3, QStringLiteral("Eliminar"), 4080},
+                                                           {4, QStringLiteral("Imprimir"), 5400},
+                                                           {5, kGuardar, 120},
+                                                           {6, kCancelar, 1440}};
+
+PantallaRegistro::PantallaRegistro(const QString& titulo, double ancho, double alto,
+                                   const QList<BotonDeBarra>& barra, QWidget* parent)
     : Marco(titulo, ancho, alto, parent) {
-    static const double lefts[] = {120, 1440, 2760, 4080, 5400, 120, 1440};
-    for (int i = 0; i < kCaptions.size(); ++i)
-        crearBoton(i, kCaptions[i], lefts[i], i < 5);
+    for (const BotonDeBarra& b : barra) {
+        const bool deEdicion = b.caption == kGuardar || b.caption == kCancelar;
+        crearBoton(b.indice, b.caption, b.left, !deEdicion);
+        if (b.caption == kGuardar) guardar_ = b.indice;
+        if (b.caption == kCancelar) cancelar_ = b.indice;
+    }
+    Q_ASSERT(guardar_ >= 0 && cancelar_ >= 0);
     setKeyPreview(true);
 }
 
 void PantallaRegistro::ModoEdicion(const QString& estado) {
-    mostrarEdicion(estado, 5, 6);
+    enEdicion_ = true;
+    lblEstado->setText(estado);
+    lblEstado->show();
+    for (QPushButton* b : cmdBoton)
+        b->setVisible(b == cmdBoton[guardar_] || b == cmdBoton[cancelar_]);
+    HabilitarEdicion(true);
 }
 
 void PantallaRegistro::ModoConsulta() {
+    enEdicion_ = false;
     Agregando = false;
-    mostrarConsulta(5, 6);
+    lblEstado->hide();
+    for (QPushButton* b : cmdBoton)
+        b->setVisible(b != cmdBoton[guardar_] && b != cmdBoton[cancelar_]);
+    HabilitarEdicion(false);
 }
 
 // "Aceptar" undoes the open transaction (the counter first) and lets the screen close; any other

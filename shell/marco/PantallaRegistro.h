@@ -4,18 +4,30 @@
 
 namespace shell {
 
-// A record screen: the chrome of Marco with the seven-button bar, Enter moving on as Tab, and the two
-// modes. Browsing shows buttons 0-4 ("Buscar", "Agregar", "Modificar", "Eliminar", "Imprimir") with
-// fraMain disabled; editing shows 5 and 6 ("Guardar", "Cancelar") where 0 and 1 stand, fraMain
-// enabled and the mode word in lblEstado.
+// One button of a record screen's bar: its index in cmdBoton, its caption and where it stands.
+struct BotonDeBarra {
+    int indice;
+    QString caption;
+    double left;
+};
+
+// A record screen: the chrome of Marco with its bar of buttons, Enter moving on as Tab, and the two
+// modes. Browsing shows every button but "Guardar" and "Cancelar", with the editing controls (fraMain
+// and whatever the screen adds) disabled; editing shows only those two, the controls enabled and the
+// mode word in lblEstado.
 class PantallaRegistro : public Marco {
     Q_OBJECT
 public:
-    PantallaRegistro(const QString& titulo, double ancho, double alto, QWidget* parent = nullptr);
+    // The seven buttons: "Buscar", "Agregar", "Modificar", "Eliminar", "Imprimir" to browse, then
+    // "Guardar" and "Cancelar" standing where the first two stand.
+    static const QList<BotonDeBarra> kBarraComun;
+
+    PantallaRegistro(const QString& titulo, double ancho, double alto,
+                     const QList<BotonDeBarra>& barra = kBarraComun, QWidget* parent = nullptr);
 
     bool Agregando = false;
-
-    static const QStringList kCaptions;
+    // Whether the screen is adding or modifying a row.
+    bool enEdicion() const { return enEdicion_; }
 
     // Screens that edit inside the shared transaction guard their closing: with a transaction open,
     // the clerk is asked whether to undo it, and closing waits for the answer.
@@ -25,8 +37,11 @@ protected:
     void ModoEdicion(const QString& estado);
     void ModoConsulta();
     void Form_QueryUnload(bool& cancelar) override;
+    bool tieneCambiosPendientes() const override { return enEdicion_; }
 
 private:
+    int guardar_ = -1, cancelar_ = -1;
+    bool enEdicion_ = false;
     bool guardaDeTransaccion_ = false;
 };
 

@@ -5,6 +5,7 @@
 #include "shell/marco/Iconos.h"
 #include "shell/principal/frmSplash.h"
 
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QToolButton>
@@ -34,7 +35,7 @@ const QList<Menu> kMenus = {
       {"Bancos", "Bancos", ""},
       {"Artículos", "Articulos", ""}}},
     {"Movimientos",
-     "",
+     "Movimientos",
      {{"Créditos", "Creditos", ""},
       {"Recibos", "Recibos", ""},
       {"Facturas", "Facturas", ""},
@@ -126,7 +127,22 @@ void frmMain::Form_Load() {
     const double pantalla =
         QGuiApplication::primaryScreen() ? twips(QGuiApplication::primaryScreen()->geometry().width()) : 0;
     Move(pantalla - Width() - 1000, 0);
-    Common::DE().CN.Open();
+    try {
+        Common::DE().CN.Open();
+    } catch (const store::Fallo& fallo) {
+        // The program ends all the same; the error box also tells how the store's database is set up.
+        throw store::Fallo(fallo.numero(),
+                           fallo.descripcion() +
+                               QStringLiteral("\n\nLa base de datos de la tienda se crea y se registra como "
+                                              "DSNBrenal con: cuentacorriente-db init"));
+    }
+}
+
+// The program ends only by "Salida" or "Cerrar el sistema": a close from the window manager (Alt+F4,
+// a desktop's close) would unload the main window and leave an invisible process holding the
+// connection and any open transaction, so it is ignored.
+void frmMain::closeEvent(QCloseEvent* evento) {
+    evento->ignore();
 }
 
 void frmMain::xMenu_Click(const QString& nombre) {

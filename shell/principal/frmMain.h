@@ -32,6 +32,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void closeEvent(QCloseEvent* evento) override;
 
 private:
     void construirMenu();

@@ -3,6 +3,7 @@
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
 #include "NumeroDelFallo.h"
+#include "ProgramaDePrueba.h"
 #include "catalogs/Articulos.h"
 #include "catalogs/frmArticulo.h"
 
@@ -27,12 +28,15 @@ private Q_SLOTS:
     void validarVenta_data();
     void validarVenta();
     void validarVentaDeArticuloDesconocido();
+    void enterNoMarcaCasillasNiOpciones();
 
 private:
+    frmArticulo& pantalla();
     frmArticulo& buscar(const QString& nombre);
     void pulsar(const QString& caption);
     std::unique_ptr<BaseDePrueba> base_;
     std::unique_ptr<EntornoDePantallas> entorno_;
+    std::unique_ptr<ProgramaDePrueba> programa_;
 };
 
 void TstFrmArticulo::init() {
@@ -46,14 +50,19 @@ void TstFrmArticulo::init() {
         "INSERT INTO NotaIngreso (IngresoID, NumeroIngreso, ProveedorID) VALUES (1, 1, 0);"
         "INSERT INTO NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES (1, 1, 5, 100);");
     entorno_ = std::make_unique<EntornoDePantallas>();
-    Common::DE().CN.Open();
+    programa_ = std::make_unique<ProgramaDePrueba>();
 }
 
 void TstFrmArticulo::cleanup() {
     entorno_.reset();
-    if (Common::DE().CN.nivelTransaccion() > 0) Common::DE().CN.RollbackTrans();
-    Common::DE().CN.Close();
+    programa_.reset();
     base_.reset();
+}
+
+// "Catalogos > Artículos", as the clerk opens it; the open screen after that.
+frmArticulo& TstFrmArticulo::pantalla() {
+    auto& p = Common::Pantalla<frmArticulo>();
+    return p.isVisible() ? p : programa_->abrir<frmArticulo>(QStringLiteral("Artículos"));
 }
 
 void TstFrmArticulo::pulsar(const QString& caption) {
@@ -64,9 +73,7 @@ void TstFrmArticulo::pulsar(const QString& caption) {
 
 // "Buscar", filtering the search by the article's name and double-clicking the row found.
 frmArticulo& TstFrmArticulo::buscar(const QString& nombre) {
-    auto& p = Common::Pantalla<frmArticulo>();
-    if (!p.isVisible()) p.Show();
-    if (!QTest::qWaitForWindowActive(&p)) qWarning("the article screen did not become active");
+    auto& p = pantalla();
     entorno_->alMostrarModal([nombre](shell::Formulario& busca) {
         auto* filtro = busca.findChild<QLineEdit*>(QStringLiteral("txtField(1)"));
         teclear(filtro, nombre);
@@ -112,7 +119,7 @@ void TstFrmArticulo::precios() {
     QCOMPARE(p.lblCreditoPrecio->text(), credito);
     QCOMPARE(p.lblExistencia->text(), existencia); // a whole number, though it reads "0.00" at design
     const bool contadoPorPorcentaje = articulo != QLatin1String("Lavadora");
-    QCOMPARE(p.optContado[0]->isChecked(), contadoPorPorcentaje);
+    QCOMPARE((*p.optContado)[0]->isChecked(), contadoPorPorcentaje);
     QCOMPARE(p.txtContadoPorcentaje->isVisibleTo(&p), contadoPorPorcentaje);
     QCOMPARE(p.txtContadoValor->isVisibleTo(&p), !contadoPorPorcentaje);
 }
@@ -120,12 +127,12 @@ void TstFrmArticulo::precios() {
 void TstFrmArticulo::opcionesMuestranUnaCajaSinBorrarLaOtra() {
     auto& p = buscar("Estufa");
     pulsar("Modificar");
-    QTest::mouseClick(p.optContado[1], Qt::LeftButton);
+    QTest::mouseClick((*p.optContado)[1], Qt::LeftButton);
     QVERIFY(p.txtContadoValor->isVisibleTo(&p));
     QVERIFY(!p.txtContadoPorcentaje->isVisibleTo(&p));
     QCOMPARE(p.txtContadoPorcentaje->text(), QStringLiteral("10"));
     QCOMPARE(p.lblContadoPrecio->text(), QStringLiteral("110.00")); // no price is recomputed
-    QTest::mouseClick(p.optCredito[1], Qt::LeftButton);
+    QTest::mouseClick((*p.optCredito)[1], Qt::LeftButton);
     QVERIFY(p.txtCreditoValor->isVisibleTo(&p));
     QVERIFY(!p.txtCreditoPorcentaje->isVisibleTo(&p));
 }
@@ -135,7 +142,7 @@ void TstFrmArticulo::guardarNoRecalculaYCancelarDejaLoEscrito() {
     pulsar("Modificar");
     QVERIFY(p.cmdBoton[3]->isVisible() && p.cmdBoton[4]->isVisible() && !p.cmdBoton[0]->isVisible());
     QCOMPARE(p.cmdBoton[3]->geometry(), p.cmdBoton[0]->geometry());
-    QTest::mouseClick(p.optContado[1], Qt::LeftButton); // the percentage box is hidden now
+    QTest::mouseClick((*p.optContado)[1], Qt::LeftButton); // the percentage box is hidden now
     p.txtContadoValor->setFocus();
     p.txtContadoValor->selectAll();
     teclear(p.txtContadoValor, QStringLiteral("50"));
@@ -163,7 +170,7 @@ void TstFrmArticulo::guardarNoRecalculaYCancelarDejaLoEscrito() {
 }
 
 void TstFrmArticulo::sinAgregarNiEliminar() {
-    auto& p = Common::Pantalla<frmArticulo>();
+    auto& p = pantalla();
     QStringList captions;
     for (QPushButton* b : p.cmdBoton)
         captions << b->text();
@@ -208,7 +215,7 @@ void TstFrmArticulo::validarVenta() {
     QFETCH(int, cantidad);
     QFETCH(double, precio);
     QFETCH(QStringList, mensajes);
-    auto& p = Common::Pantalla<frmArticulo>();
+    auto& p = pantalla();
     QStringList mostrados;
     for (int i = 0; i < mensajes.size(); ++i)
         entorno_->alMostrarModal([&](shell::Formulario& d) {
@@ -222,9 +229,33 @@ void TstFrmArticulo::validarVenta() {
         QCOMPARE(titulo, QStringLiteral("Artículos"));
 }
 
+// No row for the key: reading its fields fails as there is no current row, which nothing catches.
 void TstFrmArticulo::validarVentaDeArticuloDesconocido() {
-    QVERIFY(numeroDelFallo(
-                [] { Common::ValidarVentaArticulo(Common::Pantalla<frmArticulo>(), 99, 1, 10); }) != 0);
+    auto& p = pantalla();
+    QCOMPARE(numeroDelFallo([&] { Common::ValidarVentaArticulo(p, 99, 1, 10); }),
+             store::FalloSinRegistroActual);
+    QVERIFY(entorno_->modalesMostradas.isEmpty());
+}
+
+// Enter moves on from a check box or an option button as from a text box: it neither unticks
+// "Activo" nor chooses another margin form, and what is saved is what the clerk left.
+void TstFrmArticulo::enterNoMarcaCasillasNiOpciones() {
+    auto& p = buscar("Refrigeradora");
+    pulsar("Modificar");
+    QVERIFY(p.chkActivo->isChecked());
+    p.txtCosto->setFocus();
+    QTest::keyClick(p.txtCosto, Qt::Key_Return);
+    QCOMPARE(QApplication::focusWidget(), p.chkActivo);
+    QTest::keyClick(p.chkActivo, Qt::Key_Return);
+    QVERIFY(p.chkActivo->isChecked());
+    QVERIFY(QApplication::focusWidget() != p.chkActivo);
+    auto* valor = (*p.optContado)[1];
+    valor->setFocus();
+    QTest::keyClick(valor, Qt::Key_Enter);
+    QCOMPARE(p.optContado->Valor(), 0);
+    QVERIFY(QApplication::focusWidget() != valor);
+    pulsar("Guardar");
+    QCOMPARE(base_->valor("SELECT Activo FROM Articulo WHERE ArticuloID = 1"), QStringLiteral("1"));
 }
 
 QTEST_MAIN(TstFrmArticulo)

@@ -2,6 +2,7 @@
 // deleting, and turns every failure of its bar into the driver's text for the clerk.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "ProgramaDePrueba.h"
 #include "catalogs/frmProveedor.h"
 
 #include <QLabel>
@@ -27,6 +28,7 @@ private:
     void responder(const QString& boton, QString* texto = nullptr);
     std::unique_ptr<BaseDePrueba> base_;
     std::unique_ptr<EntornoDePantallas> entorno_;
+    std::unique_ptr<ProgramaDePrueba> programa_;
 };
 
 void TstFrmProveedor::init() {
@@ -35,22 +37,19 @@ void TstFrmProveedor::init() {
         "INSERT INTO Proveedor (Nombre, NIT) VALUES ('Muebles Finos', '8796541-2'), ('Electro Hogar', "
         "'4561237-9');");
     entorno_ = std::make_unique<EntornoDePantallas>();
-    Common::DE().CN.Open();
+    programa_ = std::make_unique<ProgramaDePrueba>();
 }
 
 void TstFrmProveedor::cleanup() {
     entorno_.reset();
-    Common::DE().CN.Close();
+    programa_.reset();
     base_.reset();
 }
 
+// "Catalogos > Proveedores", as the clerk opens it; the open screen after that.
 frmProveedor& TstFrmProveedor::pantalla() {
     auto& p = Common::Pantalla<frmProveedor>();
-    if (!p.isVisible()) {
-        p.Show();
-        if (!QTest::qWaitForWindowActive(&p)) qWarning("the supplier screen did not become active");
-    }
-    return p;
+    return p.isVisible() ? p : programa_->abrir<frmProveedor>(QStringLiteral("Proveedores"));
 }
 
 void TstFrmProveedor::pulsar(const QString& caption) {

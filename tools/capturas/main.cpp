@@ -4,7 +4,7 @@
 #include "shell/principal/Main.h"
 
 #include "BaseDePrueba.h"
-#include "catalogs/Catalogos.h"
+#include "app/Registro.h"
 #include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
 #include "catalogs/frmProveedor.h"
@@ -96,7 +96,7 @@ int main(int argc, char* argv[]) {
     if (!demo.open(QIODevice::ReadOnly)) qFatal("cannot read the sample store");
     base.sqlite(QString::fromUtf8(demo.readAll()));
 
-    catalogos::registrarPantallas();
+    aplicacion::RegistrarPantallas();
     capturarModales();
     pendientes << QStringLiteral("frmSplash");
     shell::Main();

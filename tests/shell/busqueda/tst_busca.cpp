@@ -216,6 +216,7 @@ void TstBusca::buscarComponeLaCondicion_data() {
 }
 
 void TstBusca::buscarComponeLaCondicion() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(QString, consulta);
     QFETCH(QStringList, textos);
     QFETCH(QString, condicion);
@@ -275,6 +276,7 @@ void TstBusca::devuelveLaFilaEntera_data() {
 // hidID comes back first and hidProveedorID last, though the grid never shows them. The close box
 // leaves one empty element in place of what an earlier pick left.
 void TstBusca::devuelveLaFilaEntera() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(QStringList, textos);
     QFETCH(QString, nota);
     QFETCH(QStringList, fila);

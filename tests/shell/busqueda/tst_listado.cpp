@@ -126,6 +126,7 @@ void TstListado::elegir_data() {
 
 // The list stays until the last gesture, which leaves with the pick.
 void TstListado::elegir() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(QString, consulta);
     QFETCH(QString, gestos);
     QFETCH(int, id);

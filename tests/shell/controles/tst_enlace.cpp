@@ -250,6 +250,7 @@ void TstEnlace::numerosConFormato_data() {
 // The field's kind (number) runs first, then the binding writes the cleaned text; the row's value is
 // shown back through the display format.
 void TstEnlace::numerosConFormato() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(QString, columna);
     QFETCH(QString, tecleado);
     QFETCH(QString, seVe);
@@ -310,6 +311,7 @@ void TstEnlace::loPuestoYLoElegidoVanALaFila() {
 // With no current row (a screen on an empty table), leaving a field writes nothing and fails nothing;
 // it is "Guardar" that then fails.
 void TstEnlace::sinFilaActualNoSeEscribe() {
+    entorno_->esperaFallos(); // checked below
     PantallaBanco p;
     p.adoBanco->setRecordSource(QStringLiteral("Select * From Banco Where BancoID < 0"));
     p.adoBanco->Refresh();

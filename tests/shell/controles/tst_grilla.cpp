@@ -135,6 +135,7 @@ void TstGrilla::fueraDelIntervalo_data() {
 // Each is an error of the program: through the handler wrapper it reaches the fatal path, and the
 // grid is left as it was.
 void TstGrilla::fueraDelIntervalo() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(Accion, accion);
     GrillaDetalle g;
     g.setCols(3);

@@ -43,6 +43,7 @@ void TstSelectorFecha::fechaDada_data() {
 // A new picker shows today by the program's clock, day first. A value that is no date is an error of
 // the program: it reaches the fatal path, the date stays.
 void TstSelectorFecha::fechaDada() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(QVariant, dado);
     QFETCH(QDate, queda);
     QFETCH(bool, falla);

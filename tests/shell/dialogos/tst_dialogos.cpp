@@ -287,6 +287,7 @@ void TstDialogos::elegirOpcion() {
 // Nothing stays from one showing to the next: three options, then two, and a shorter dialog. The width
 // is reckoned in 16-bit integers: no option in use comes near, but one of 250 characters overflows.
 void TstDialogos::cadaOpcionAlargaElDialogo() {
+    entorno_->esperaFallos(); // checked below
     QList<int> altos, botones;
     for (const QStringList& textos :
          {QStringList{"Uno", "Dos", "Tres"}, QStringList{"Uno", "Dos"}, QStringList{QString(250, u'x')}}) {

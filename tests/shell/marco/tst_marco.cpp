@@ -212,6 +212,7 @@ void TstMarco::fallosSinAtenderLleganAlCaminoFatal_data() {
 }
 
 void TstMarco::fallosSinAtenderLleganAlCaminoFatal() {
+    entorno_->esperaFallos(); // checked below
     QFETCH(bool, delAlmacen);
     QFETCH(qint32, numero);
     auto& p = Common::Pantalla<PantallaDePrueba>();

@@ -26,13 +26,23 @@ EntornoDePantallas::EntornoDePantallas() {
         titulosModales << (titulo ? titulo->text().trimmed() : QString());
         if (acciones_.isEmpty()) {
             ++modalesSinAccion;
+            if (!esperaModalesSinAccion_)
+                QTest::qFail(qPrintable(QStringLiteral("una pantalla modal que nadie esperaba: %1 \"%2\"")
+                                            .arg(pantalla.objectName(), titulosModales.last())),
+                             __FILE__, __LINE__);
             pantalla.Unload();
             return;
         }
         const Accion accion = acciones_.takeFirst();
         accion(pantalla);
     });
-    Common::InstalarGanchoFatal([this](const store::Fallo& f) { fallos << f; });
+    Common::InstalarGanchoFatal([this](const store::Fallo& f) {
+        fallos << f;
+        if (!esperaFallos_)
+            QTest::qFail(qPrintable(QStringLiteral("un fallo llegó al final del programa: %1 %2")
+                                        .arg(f.numeroHex(), f.descripcion())),
+                         __FILE__, __LINE__);
+    });
     Common::InstalarGanchoTerminar([this] { ++terminaciones; });
 }
 

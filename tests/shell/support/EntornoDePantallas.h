@@ -13,6 +13,9 @@ class QWidget;
 // What a screen test needs around the screens: Common's values as Main leaves them, a modal driver
 // that answers each modal screen with the next queued action (acting on the real widgets), and hooks
 // that record an unhandled failure and the end of the program instead of ending the test binary.
+//
+// A modal screen nobody queued an action for, and a failure that reached the fatal path, fail the
+// test, unless the test said it expects them (esperaModalesSinAccion, esperaFallos) and checks them.
 class EntornoDePantallas {
 public:
     EntornoDePantallas();
@@ -30,11 +33,18 @@ public:
     QList<store::Fallo> fallos; // unhandled failures that reached the fatal path
     int terminaciones = 0;      // calls of Common::Terminar
 
+    // The test expects unhandled failures, and checks `fallos` itself.
+    void esperaFallos() { esperaFallos_ = true; }
+    // The test expects modal screens it queued no action for, and checks `modalesSinAccion` itself.
+    void esperaModalesSinAccion() { esperaModalesSinAccion_ = true; }
+
     // Closes every top-level screen still open, so that each test starts afresh.
     static void cerrarPantallas();
 
 private:
     QList<Accion> acciones_;
+    bool esperaFallos_ = false;
+    bool esperaModalesSinAccion_ = false;
 };
 
 // Types text into a control with key events that carry their text (QTest::keyClicks can't send
