@@ -28,6 +28,7 @@ public:
     bool Agregando = false;
     // Whether the screen is adding or modifying a row.
     bool enEdicion() const { return enEdicion_; }
+    bool tieneCambiosPendientes() const override { return enEdicion_; }
 
     // Screens that edit inside the shared transaction guard their closing: with a transaction open,
     // the clerk is asked whether to undo it, and closing waits for the answer.
@@ -37,7 +38,6 @@ protected:
     void ModoEdicion(const QString& estado);
     void ModoConsulta();
     void Form_QueryUnload(bool& cancelar) override;
-    bool tieneCambiosPendientes() const override { return enEdicion_; }
 
 private:
     int guardar_ = -1, cancelar_ = -1;
