@@ -39,7 +39,9 @@ INNER JOIN vwMovimientoArticulo M ON M.ArticuloID = D.ArticuloID;
 
 -- Delivery-note search, read by position: 1 key, 2 number, 3 date, 4 application key, 5 its number,
 -- 6 invoice key, 7 its number, 8 receipt key, 9 its number (keys and numbers 0 when none),
--- 10 customer's name, then the address.
+-- 10 customer's name, then the address. The customer is found as on the receipt and invoice searches:
+-- for an invoice or a receipt of an application, the application's client; for one of a client, that
+-- client; else the name typed on the document.
 CREATE VIEW vwBuscaNotaEnvio AS
 SELECT N.NotaID AS hidID,
        N.NumeroNota AS shw1000_int_No_Envio,
@@ -57,9 +59,11 @@ FROM NotaEnvio N
 LEFT JOIN Solicitud S ON S.SolicitudID = N.SolicitudID AND N.SolicitudID > 0
 LEFT JOIN Factura F ON F.FacturaID = N.FacturaID AND N.FacturaID > 0
 LEFT JOIN Recibo R ON R.ReciboID = N.ReciboID AND N.ReciboID > 0
+LEFT JOIN Solicitud SF ON SF.SolicitudID = F.SolicitudID AND F.SolicitudID > 0
+LEFT JOIN Solicitud SR ON SR.SolicitudID = R.SolicitudID AND R.SolicitudID > 0
 LEFT JOIN Cliente C ON C.ClienteID = CASE WHEN N.SolicitudID > 0 THEN S.ClienteID
-                                          WHEN N.FacturaID > 0 THEN F.ClienteID
-                                          ELSE R.ClienteID END;
+                                          WHEN N.FacturaID > 0 THEN ifnull(SF.ClienteID, F.ClienteID)
+                                          ELSE ifnull(SR.ClienteID, R.ClienteID) END;
 
 CREATE VIEW vwNotaEnvioDetalle AS
 SELECT D.NotaID AS NotaID,
