@@ -1,8 +1,9 @@
 -- Goods coming in and going out. Nothing marks a sale as delivered: what is still to deliver of an
 -- article on a document is the quantity sold on the document's article lines less the quantity of the
 -- delivery lines of the notes whose origin is that document. An application counts once it is
--- approved (Estado 1 or 2). An invoice's lines brought in from an application (EsCredito) are the
--- application's goods and are delivered against it, so they do not count again on the invoice.
+-- approved (Estado 1 or 2). Every line of an invoice or a receipt that names an article counts on
+-- it, an invoice's lines brought in from an application (EsCredito) among them: each document's
+-- pending goods are its own lines less the notes made against that document.
 
 -- Goods-in search: 1 key. Total = sum of Cantidad x Costo of its lines, rounded to cents.
 CREATE VIEW vwBuscaNotaIngreso AS
@@ -100,15 +101,15 @@ SELECT FD.ArticuloID AS hidArticuloID,
        FD.FacturaID AS hidFacturaID,
        trim(ifnull(A.Nombre, '') || ' ' || ifnull(A.Modelo, '') || ' ' || ifnull(A.Color, '')) AS shw3000_str_Descripcion,
        CAST((SELECT total(X.Cantidad) FROM FacturaDetalle X
-             WHERE X.FacturaID = FD.FacturaID AND X.ArticuloID = FD.ArticuloID AND ifnull(X.EsCredito, 0) = 0)
+             WHERE X.FacturaID = FD.FacturaID AND X.ArticuloID = FD.ArticuloID)
             - (SELECT total(E.Cantidad) FROM NotaEnvio N CROSS JOIN NotaEnvioDetalle E ON E.NotaID = N.NotaID
                WHERE N.FacturaID = FD.FacturaID AND E.ArticuloID = FD.ArticuloID) AS INTEGER) AS shw1200_int_Saldo
 FROM FacturaDetalle FD
 LEFT JOIN Articulo A ON A.ArticuloID = FD.ArticuloID
-WHERE FD.ArticuloID > 0 AND ifnull(FD.EsCredito, 0) = 0
+WHERE FD.ArticuloID > 0
   AND NOT EXISTS (SELECT 1 FROM FacturaDetalle P
                   WHERE P.FacturaID = FD.FacturaID AND P.ArticuloID = FD.ArticuloID
-                    AND ifnull(P.EsCredito, 0) = 0 AND P.FacturaDetalleID < FD.FacturaDetalleID);
+                    AND P.FacturaDetalleID < FD.FacturaDetalleID);
 
 CREATE VIEW vwSaldoXArticuloXRecibo AS
 SELECT RD.ArticuloID AS hidArticuloID,
@@ -152,8 +153,7 @@ SELECT F.FacturaID AS hidFacturaID,
 FROM Factura F
 LEFT JOIN Solicitud S ON S.SolicitudID = F.SolicitudID AND F.SolicitudID > 0
 LEFT JOIN Cliente C ON C.ClienteID = CASE WHEN F.SolicitudID > 0 THEN S.ClienteID ELSE F.ClienteID END
-WHERE EXISTS (SELECT 1 FROM FacturaDetalle FD
-              WHERE FD.FacturaID = F.FacturaID AND FD.ArticuloID > 0 AND ifnull(FD.EsCredito, 0) = 0);
+WHERE EXISTS (SELECT 1 FROM FacturaDetalle FD WHERE FD.FacturaID = F.FacturaID AND FD.ArticuloID > 0);
 
 CREATE VIEW vwSaldosArticulosXRecibo AS
 SELECT R.ReciboID AS hidReciboID,

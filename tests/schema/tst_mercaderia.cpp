@@ -130,12 +130,12 @@ void TstMercaderia::pendientesPorOrigen_data() {
     QTest::addColumn<bool>("lineaDeCredito");
     QTest::addColumn<int>("pendiente");
     QTest::newRow("factura de contado") << "Factura" << false << 3;
-    QTest::newRow("factura de una solicitud: se entrega contra la solicitud") << "Factura" << true << 0;
+    QTest::newRow("factura con lineas traidas de una solicitud") << "Factura" << true << 3;
     QTest::newRow("recibo con articulo") << "Recibo" << false << 3;
 }
 
-// An invoice or a receipt that sold articles leaves them pending until a note takes them; the lines
-// an invoice brought in from an application stay the application's.
+// An invoice or a receipt that sold articles leaves them pending until a note takes them: every line
+// with an article counts, those an invoice brought in from an application too.
 void TstMercaderia::pendientesPorOrigen() {
     QFETCH(QString, documento);
     QFETCH(bool, lineaDeCredito);
