@@ -18,25 +18,32 @@ FROM NotaIngreso N
 LEFT JOIN Proveedor P ON P.ProveedorID = N.ProveedorID;
 
 -- Lines of a goods-in note with their article: Ingresos is the line's quantity, Egresos and Existencia
--- the article's units delivered and stock, CostoTotal = Cantidad x Costo rounded to cents.
+-- the article's units delivered and stock (Ingresos - Egresos over all its lines), CostoTotal =
+-- Cantidad x Costo rounded to cents. The article's movements are read per line, in a DISTINCT select
+-- for the reason told at vwMovimientoArticulo: each subquery once per line, and the note's key pushed
+-- down to its own lines.
 CREATE VIEW vwNotaIngresoDetalle AS
-SELECT D.IngresoID AS IngresoID,
-       D.ArticuloID AS ArticuloID,
+SELECT L.IngresoID AS IngresoID,
+       L.ArticuloID AS ArticuloID,
        A.Nombre AS Nombre,
        A.Modelo AS Modelo,
        A.Color AS Color,
-       round(ifnull(D.Costo, 0), 2) AS Costo,
+       round(ifnull(L.Costo, 0), 2) AS Costo,
        A.ContadoPorcentaje AS ContadoPorcentaje,
        A.ContadoValor AS ContadoValor,
-       D.Cantidad AS Ingresos,
-       M.Egresos AS Egresos,
-       M.Ingresos - M.Egresos AS Existencia,
+       L.Cantidad AS Ingresos,
+       L.EgresosArticulo AS Egresos,
+       L.IngresosArticulo - L.EgresosArticulo AS Existencia,
        A.CreditoPorcentaje AS CreditoPorcentaje,
        A.CreditoValor AS CreditoValor,
-       round(ifnull(D.Cantidad, 0) * ifnull(D.Costo, 0), 2) AS CostoTotal
-FROM NotaIngresoDetalle D
-INNER JOIN Articulo A ON A.ArticuloID = D.ArticuloID
-INNER JOIN vwMovimientoArticulo M ON M.ArticuloID = D.ArticuloID;
+       round(ifnull(L.Cantidad, 0) * ifnull(L.Costo, 0), 2) AS CostoTotal
+FROM (SELECT DISTINCT D.NotaIngresoDetalleID, D.IngresoID, D.ArticuloID, D.Cantidad, D.Costo,
+             (SELECT total(I.Cantidad) FROM NotaIngresoDetalle I WHERE I.ArticuloID = D.ArticuloID)
+                 AS IngresosArticulo,
+             (SELECT total(E.Cantidad) FROM NotaEnvioDetalle E WHERE E.ArticuloID = D.ArticuloID)
+                 AS EgresosArticulo
+      FROM NotaIngresoDetalle D) L
+INNER JOIN Articulo A ON A.ArticuloID = L.ArticuloID;
 
 -- Delivery-note search, read by position: 1 key, 2 number, 3 date, 4 application key, 5 its number,
 -- 6 invoice key, 7 its number, 8 receipt key, 9 its number (keys and numbers 0 when none),
