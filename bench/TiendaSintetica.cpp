@@ -3,6 +3,7 @@
 #include "BaseDePrueba.h"
 
 #include <QString>
+#include <algorithm>
 
 namespace {
 
@@ -14,8 +15,13 @@ QString contar(int n) {
 
 } // namespace
 
+int articulosDeTiendaSintetica(int solicitudes) {
+    return std::max(1, solicitudes / 20);
+}
+
 void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes) {
-    constexpr int articulos = 500, proveedores = 20;
+    constexpr int proveedores = 20;
+    const int articulos = articulosDeTiendaSintetica(solicitudes);
     const int clientes = solicitudes / 2, notas = solicitudes / 20;
     QString s = QStringLiteral("BEGIN;");
     s += contar(proveedores) +
@@ -49,7 +55,8 @@ void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes) {
          "100, 100, 12, i % 3 FROM n;";
     s += contar(solicitudes * 2) +
          "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) "
-         "SELECT 1 + (i - 1) / 2, 1 + (i * 7) % " +
+         // A prime stride spreads the lines over every article.
+         "SELECT 1 + (i - 1) / 2, 1 + (i * 7919) % " +
          QString::number(articulos) + ", 1, 1500 FROM n;";
     s += contar(solicitudes * 3) + "INSERT INTO Recibo (NumeroRecibo, Fecha, SolicitudID, Efectivo) "
                                    "SELECT i, '2026-04-01', 1 + (i - 1) / 3, 200 FROM n;";

@@ -252,8 +252,11 @@ CREATE TABLE Documento (
     Descripcion     TEXT COLLATE NOCASE
 );
 
--- The one relation the database enforces as a foreign key: a goods-in note that a payable document
--- still names cannot be deleted (the goods-in screen turns the refusal into its own message).
+-- The one relation the store must keep: each line pays a goods-in note that exists. The clause below
+-- declares it (and lets PRAGMA foreign_key_check find a broken one), but SQLite acts on it only where
+-- the connection turned foreign keys on, which DSNBrenal's FKSupport decides; the guards of
+-- 030-integridad.sql keep it on every connection, and fire before the clause could, so both settings
+-- refuse the same statements with the same message.
 CREATE TABLE DocumentoDetalle (
     DocumentoDetalleID INTEGER PRIMARY KEY AUTOINCREMENT,
     DocumentoID        INTEGER NOT NULL,

@@ -54,3 +54,31 @@ WHEN EXISTS (SELECT 1 FROM ReciboDetalle WHERE ConceptoID = OLD.ConceptoID)
 BEGIN
     SELECT RAISE(ABORT, 'No puede eliminarse el concepto: hay recibos o facturas que lo nombran.');
 END;
+
+-- A payable document's lines pay goods-in notes: a note they name can't be deleted, nor its key
+-- changed, and a line can name only a note that exists. The goods-in screen tells the general failure
+-- of the delete apart from other failures and shows its own message.
+CREATE TRIGGER trgNotaIngresoPagada BEFORE DELETE ON NotaIngreso
+WHEN EXISTS (SELECT 1 FROM DocumentoDetalle WHERE IngresoID = OLD.IngresoID)
+BEGIN
+    SELECT RAISE(ABORT, 'No puede eliminarse la nota de ingreso: hay documentos por pagar que la nombran.');
+END;
+
+CREATE TRIGGER trgNotaIngresoPagadaClave BEFORE UPDATE OF IngresoID ON NotaIngreso
+WHEN NEW.IngresoID IS NOT OLD.IngresoID
+  AND EXISTS (SELECT 1 FROM DocumentoDetalle WHERE IngresoID = OLD.IngresoID)
+BEGIN
+    SELECT RAISE(ABORT, 'No puede cambiarse la nota de ingreso: hay documentos por pagar que la nombran.');
+END;
+
+CREATE TRIGGER trgDocumentoDetalleNota BEFORE INSERT ON DocumentoDetalle
+WHEN NOT EXISTS (SELECT 1 FROM NotaIngreso WHERE IngresoID = NEW.IngresoID)
+BEGIN
+    SELECT RAISE(ABORT, 'No puede guardarse el pago: la nota de ingreso que nombra no existe.');
+END;
+
+CREATE TRIGGER trgDocumentoDetalleNotaCambia BEFORE UPDATE OF IngresoID ON DocumentoDetalle
+WHEN NOT EXISTS (SELECT 1 FROM NotaIngreso WHERE IngresoID = NEW.IngresoID)
+BEGIN
+    SELECT RAISE(ABORT, 'No puede guardarse el pago: la nota de ingreso que nombra no existe.');
+END;

@@ -1,8 +1,9 @@
 -- Goods coming in and going out. Nothing marks a sale as delivered: what is still to deliver of an
 -- article on a document is the quantity sold on the document's article lines less the quantity of the
 -- delivery lines of the notes whose origin is that document. An application counts once it is
--- approved (Estado 1 or 2). An invoice's lines brought in from an application (EsCredito) are the
--- application's goods and are delivered against it, so they do not count again on the invoice.
+-- approved (Estado 1 or 2). Every line of an invoice or a receipt that names an article counts on
+-- it, an invoice's lines brought in from an application (EsCredito) among them: each document's
+-- pending goods are its own lines less the notes made against that document.
 
 -- Goods-in search: 1 key. Total = sum of Cantidad x Costo of its lines, rounded to cents.
 CREATE VIEW vwBuscaNotaIngreso AS
@@ -17,29 +18,38 @@ FROM NotaIngreso N
 LEFT JOIN Proveedor P ON P.ProveedorID = N.ProveedorID;
 
 -- Lines of a goods-in note with their article: Ingresos is the line's quantity, Egresos and Existencia
--- the article's units delivered and stock, CostoTotal = Cantidad x Costo rounded to cents.
+-- the article's units delivered and stock (Ingresos - Egresos over all its lines), CostoTotal =
+-- Cantidad x Costo rounded to cents. The article's movements are read per line, in a DISTINCT select
+-- for the reason told at vwMovimientoArticulo: each subquery once per line, and the note's key pushed
+-- down to its own lines.
 CREATE VIEW vwNotaIngresoDetalle AS
-SELECT D.IngresoID AS IngresoID,
-       D.ArticuloID AS ArticuloID,
+SELECT L.IngresoID AS IngresoID,
+       L.ArticuloID AS ArticuloID,
        A.Nombre AS Nombre,
        A.Modelo AS Modelo,
        A.Color AS Color,
-       round(ifnull(D.Costo, 0), 2) AS Costo,
+       round(ifnull(L.Costo, 0), 2) AS Costo,
        A.ContadoPorcentaje AS ContadoPorcentaje,
        A.ContadoValor AS ContadoValor,
-       D.Cantidad AS Ingresos,
-       M.Egresos AS Egresos,
-       M.Ingresos - M.Egresos AS Existencia,
+       L.Cantidad AS Ingresos,
+       L.EgresosArticulo AS Egresos,
+       L.IngresosArticulo - L.EgresosArticulo AS Existencia,
        A.CreditoPorcentaje AS CreditoPorcentaje,
        A.CreditoValor AS CreditoValor,
-       round(ifnull(D.Cantidad, 0) * ifnull(D.Costo, 0), 2) AS CostoTotal
-FROM NotaIngresoDetalle D
-INNER JOIN Articulo A ON A.ArticuloID = D.ArticuloID
-INNER JOIN vwMovimientoArticulo M ON M.ArticuloID = D.ArticuloID;
+       round(ifnull(L.Cantidad, 0) * ifnull(L.Costo, 0), 2) AS CostoTotal
+FROM (SELECT DISTINCT D.NotaIngresoDetalleID, D.IngresoID, D.ArticuloID, D.Cantidad, D.Costo,
+             (SELECT total(I.Cantidad) FROM NotaIngresoDetalle I WHERE I.ArticuloID = D.ArticuloID)
+                 AS IngresosArticulo,
+             (SELECT total(E.Cantidad) FROM NotaEnvioDetalle E WHERE E.ArticuloID = D.ArticuloID)
+                 AS EgresosArticulo
+      FROM NotaIngresoDetalle D) L
+INNER JOIN Articulo A ON A.ArticuloID = L.ArticuloID;
 
 -- Delivery-note search, read by position: 1 key, 2 number, 3 date, 4 application key, 5 its number,
 -- 6 invoice key, 7 its number, 8 receipt key, 9 its number (keys and numbers 0 when none),
--- 10 customer's name, then the address.
+-- 10 customer's name, then the address. The customer is found as on the receipt and invoice searches:
+-- for an invoice or a receipt of an application, the application's client; for one of a client, that
+-- client; else the name typed on the document.
 CREATE VIEW vwBuscaNotaEnvio AS
 SELECT N.NotaID AS hidID,
        N.NumeroNota AS shw1000_int_No_Envio,
@@ -57,9 +67,11 @@ FROM NotaEnvio N
 LEFT JOIN Solicitud S ON S.SolicitudID = N.SolicitudID AND N.SolicitudID > 0
 LEFT JOIN Factura F ON F.FacturaID = N.FacturaID AND N.FacturaID > 0
 LEFT JOIN Recibo R ON R.ReciboID = N.ReciboID AND N.ReciboID > 0
+LEFT JOIN Solicitud SF ON SF.SolicitudID = F.SolicitudID AND F.SolicitudID > 0
+LEFT JOIN Solicitud SR ON SR.SolicitudID = R.SolicitudID AND R.SolicitudID > 0
 LEFT JOIN Cliente C ON C.ClienteID = CASE WHEN N.SolicitudID > 0 THEN S.ClienteID
-                                          WHEN N.FacturaID > 0 THEN F.ClienteID
-                                          ELSE R.ClienteID END;
+                                          WHEN N.FacturaID > 0 THEN ifnull(SF.ClienteID, F.ClienteID)
+                                          ELSE ifnull(SR.ClienteID, R.ClienteID) END;
 
 CREATE VIEW vwNotaEnvioDetalle AS
 SELECT D.NotaID AS NotaID,
@@ -96,15 +108,15 @@ SELECT FD.ArticuloID AS hidArticuloID,
        FD.FacturaID AS hidFacturaID,
        trim(ifnull(A.Nombre, '') || ' ' || ifnull(A.Modelo, '') || ' ' || ifnull(A.Color, '')) AS shw3000_str_Descripcion,
        CAST((SELECT total(X.Cantidad) FROM FacturaDetalle X
-             WHERE X.FacturaID = FD.FacturaID AND X.ArticuloID = FD.ArticuloID AND ifnull(X.EsCredito, 0) = 0)
+             WHERE X.FacturaID = FD.FacturaID AND X.ArticuloID = FD.ArticuloID)
             - (SELECT total(E.Cantidad) FROM NotaEnvio N CROSS JOIN NotaEnvioDetalle E ON E.NotaID = N.NotaID
                WHERE N.FacturaID = FD.FacturaID AND E.ArticuloID = FD.ArticuloID) AS INTEGER) AS shw1200_int_Saldo
 FROM FacturaDetalle FD
 LEFT JOIN Articulo A ON A.ArticuloID = FD.ArticuloID
-WHERE FD.ArticuloID > 0 AND ifnull(FD.EsCredito, 0) = 0
+WHERE FD.ArticuloID > 0
   AND NOT EXISTS (SELECT 1 FROM FacturaDetalle P
                   WHERE P.FacturaID = FD.FacturaID AND P.ArticuloID = FD.ArticuloID
-                    AND ifnull(P.EsCredito, 0) = 0 AND P.FacturaDetalleID < FD.FacturaDetalleID);
+                    AND P.FacturaDetalleID < FD.FacturaDetalleID);
 
 CREATE VIEW vwSaldoXArticuloXRecibo AS
 SELECT RD.ArticuloID AS hidArticuloID,
@@ -148,8 +160,7 @@ SELECT F.FacturaID AS hidFacturaID,
 FROM Factura F
 LEFT JOIN Solicitud S ON S.SolicitudID = F.SolicitudID AND F.SolicitudID > 0
 LEFT JOIN Cliente C ON C.ClienteID = CASE WHEN F.SolicitudID > 0 THEN S.ClienteID ELSE F.ClienteID END
-WHERE EXISTS (SELECT 1 FROM FacturaDetalle FD
-              WHERE FD.FacturaID = F.FacturaID AND FD.ArticuloID > 0 AND ifnull(FD.EsCredito, 0) = 0);
+WHERE EXISTS (SELECT 1 FROM FacturaDetalle FD WHERE FD.FacturaID = F.FacturaID AND FD.ArticuloID > 0);
 
 CREATE VIEW vwSaldosArticulosXRecibo AS
 SELECT R.ReciboID AS hidReciboID,

@@ -14,8 +14,8 @@ QString claveDe(const QString& tabla) {
 
 } // namespace
 
-TiendaDePrueba::TiendaDePrueba()
-    : base_(true)
+TiendaDePrueba::TiendaDePrueba(BaseDePrueba::FKSupport fkSupport)
+    : base_(true, fkSupport)
     , cn_(QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=DSNBrenal;")) {
     cn_.Open();
 }

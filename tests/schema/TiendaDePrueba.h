@@ -12,7 +12,7 @@
 // Insert statements on the shared connection.
 class TiendaDePrueba {
 public:
-    TiendaDePrueba();
+    explicit TiendaDePrueba(BaseDePrueba::FKSupport fkSupport = BaseDePrueba::FKSupport::Activado);
 
     store::Conexion& cn() { return cn_; }
     BaseDePrueba& base() { return base_; }

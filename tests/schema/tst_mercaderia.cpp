@@ -19,6 +19,8 @@ private Q_SLOTS:
     void documentoPorPagarAbonaUnaNota();
     void notaPagadaNoSePuedeBorrar();
     void posicionesQueLeenLosLlamadores();
+    void clienteDeUnaNotaDeEnvio_data();
+    void clienteDeUnaNotaDeEnvio();
     void filtrosDeLaBusqueda_data();
     void filtrosDeLaBusqueda();
     void personasDesactivadasNoSeOfrecen_data();
@@ -128,12 +130,12 @@ void TstMercaderia::pendientesPorOrigen_data() {
     QTest::addColumn<bool>("lineaDeCredito");
     QTest::addColumn<int>("pendiente");
     QTest::newRow("factura de contado") << "Factura" << false << 3;
-    QTest::newRow("factura de una solicitud: se entrega contra la solicitud") << "Factura" << true << 0;
+    QTest::newRow("factura con lineas traidas de una solicitud") << "Factura" << true << 3;
     QTest::newRow("recibo con articulo") << "Recibo" << false << 3;
 }
 
-// An invoice or a receipt that sold articles leaves them pending until a note takes them; the lines
-// an invoice brought in from an application stay the application's.
+// An invoice or a receipt that sold articles leaves them pending until a note takes them: every line
+// with an article counts, those an invoice brought in from an application too.
 void TstMercaderia::pendientesPorOrigen() {
     QFETCH(QString, documento);
     QFETCH(bool, lineaDeCredito);
@@ -295,6 +297,50 @@ void TstMercaderia::posicionesQueLeenLosLlamadores() {
     QCOMPARE(notas.size(), 1);
     QCOMPARE(notas[0][2].toDate(), QDate(2026, 11, 23));
     QCOMPARE(notas[0].mid(3, 7), (QVariantList{0, 0, factura, 4, 0, 0, "ANA"}));
+}
+
+void TstMercaderia::clienteDeUnaNotaDeEnvio_data() {
+    QTest::addColumn<QString>("documento"); // the note's origin
+    QTest::addColumn<QString>("de");        // the document is for: "solicitud", "cliente" or a typed name
+    QTest::addColumn<QString>("nombre");    // position 10 of the note's row
+    QTest::newRow("solicitud") << "Solicitud"
+                               << "cliente"
+                               << "JUAN GÓMEZ";
+    for (const char* documento : {"Factura", "Recibo"}) {
+        QTest::addRow("%s de una solicitud", documento) << documento << "solicitud"
+                                                        << "JUAN GÓMEZ";
+        QTest::addRow("%s de un cliente", documento) << documento << "cliente"
+                                                     << "JUAN GÓMEZ";
+        QTest::addRow("%s a nombre escrito", documento) << documento << "PEDRO PÉREZ"
+                                                        << "PEDRO PÉREZ";
+    }
+}
+
+// The delivery screen takes the customer's name from position 10 of the note it finds: the client of
+// the application, whether the note is made against the application itself or against a receipt or
+// an invoice of it; the client of a document made out to a client; else the name typed on it.
+void TstMercaderia::clienteDeUnaNotaDeEnvio() {
+    QFETCH(QString, documento);
+    QFETCH(QString, de);
+    QFETCH(QString, nombre);
+    auto& t = *tienda_;
+    const int solicitud =
+        t.agregar("Solicitud", {{"NumeroSolicitud", 8}, {"ClienteID", cliente_}, {"Estado", 1}});
+    int origen = solicitud;
+    if (documento != "Solicitud") {
+        QVariantMap campos{{"Numero" + documento, 12}};
+        if (de == "solicitud")
+            campos.insert("SolicitudID", solicitud);
+        else if (de == "cliente")
+            campos.insert("ClienteID", cliente_);
+        else
+            campos.insert("Nombre", de);
+        origen = t.agregar(documento, campos);
+    }
+    t.notaEnvio(documento + "ID", origen, {{refri_, 1}});
+    const auto notas = t.filas("Select * From vwBuscaNotaEnvio");
+    QCOMPARE(notas.size(), 1);
+    QCOMPARE(notas[0][9].toString(), nombre);
 }
 
 void TstMercaderia::filtrosDeLaBusqueda_data() {

@@ -60,7 +60,8 @@ QString plantillaConEsquema() {
 
 } // namespace
 
-BaseDePrueba::BaseDePrueba(bool esquema) {
+BaseDePrueba::BaseDePrueba(bool esquema, FKSupport fkSupport)
+    : fkSupport_(fkSupport) {
     if (!dir_.isValid()) qFatal("no temporary directory");
     guardar("ODBCSYSINI", odbcSysIni_, habiaOdbcSysIni_);
     guardar("ODBCINI", odbcIni_, habiaOdbcIni_);
@@ -94,7 +95,9 @@ void BaseDePrueba::escribirConfiguracionOdbc() const {
                        << "Description=Base de prueba\n"
                        << "Driver=" << CC_SQLITE3_ODBC_DRIVER << "\n"
                        << "Database=" << archivo() << "\n"
-                       << "JournalMode=WAL\nTimeout=5000\nFKSupport=1\n";
+                       << "JournalMode=WAL\nTimeout=5000\n";
+    if (fkSupport_ != FKSupport::Ausente)
+        QTextStream(&odbc) << "FKSupport=" << (fkSupport_ == FKSupport::Activado ? 1 : 0) << "\n";
     QFile instalados(dir_.filePath(QStringLiteral("odbcinst.ini")));
     if (!instalados.open(QIODevice::WriteOnly | QIODevice::Text)) qFatal("cannot write odbcinst.ini");
     QTextStream(&instalados) << "[SQLite3]\nDescription=SQLite3 ODBC Driver\nDriver="

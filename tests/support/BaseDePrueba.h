@@ -10,8 +10,12 @@
 // The environment is restored when it goes.
 class BaseDePrueba {
 public:
+    // What DSNBrenal says of foreign keys, which the SQLite driver enforces only on FKSupport=1:
+    // that (what cuentacorriente-db init writes), FKSupport=0, or an entry without the key.
+    enum class FKSupport { Activado, Desactivado, Ausente };
+
     // With esquema true the database is built from the project's schema/sqlite scripts.
-    explicit BaseDePrueba(bool esquema = false);
+    explicit BaseDePrueba(bool esquema = false, FKSupport fkSupport = FKSupport::Activado);
     ~BaseDePrueba();
     BaseDePrueba(const BaseDePrueba&) = delete;
     BaseDePrueba& operator=(const BaseDePrueba&) = delete;
@@ -32,6 +36,7 @@ private:
     void escribirConfiguracionOdbc() const;
 
     QTemporaryDir dir_;
+    FKSupport fkSupport_;
     QByteArray odbcSysIni_, odbcIni_, home_;
     bool habiaOdbcSysIni_, habiaOdbcIni_, habiaHome_;
 };

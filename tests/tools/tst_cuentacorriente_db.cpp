@@ -107,6 +107,8 @@ private Q_SLOTS:
     void tiendaDeEjemplo_data();
     void tiendaDeEjemplo();
     void statusInforma();
+    void statusAvisaSinFKSupport_data();
+    void statusAvisaSinFKSupport();
     void backupConLaBaseEnUso_data();
     void backupConLaBaseEnUso();
     void rechazaSinTocarNada_data();
@@ -358,6 +360,61 @@ void TstCuentacorrienteDb::statusInforma() {
     }
     QCOMPARE(leidas, filas);
     QCOMPARE(anchos.size(), 1);
+}
+
+void TstCuentacorrienteDb::statusAvisaSinFKSupport_data() {
+    QTest::addColumn<QString>("archivo"); // relative to the case's folder
+    QTest::addColumn<QString>("clave");   // the FKSupport line of DSNBrenal, if any
+    QTest::addColumn<QString>("aviso");   // the line that tells how to register it again; empty: none
+    QTest::newRow("FKSupport=1") << "tienda.db"
+                                 << "FKSupport=1"
+                                 << "";
+    QTest::newRow("FKSupport=yes, que el controlador lee como 1") << "tienda.db"
+                                                                  << "FKSupport=yes"
+                                                                  << "";
+    QTest::newRow("sin FKSupport") << "tienda.db"
+                                   << ""
+                                   << "init --file @/tienda.db";
+    QTest::newRow("FKSupport=0") << "tienda.db"
+                                 << "FKSupport=0"
+                                 << "init --file @/tienda.db";
+    QTest::newRow("FKSupport=no, ruta con espacios") << "mi tienda/brenal.db"
+                                                     << "FKSupport=no"
+                                                     << "init --file '@/mi tienda/brenal.db'";
+}
+
+// A DSNBrenal written by hand without the option the database expects is still reported in full, with
+// a warning that names the option and how to register the data source again; done so, the warning
+// goes.
+void TstCuentacorrienteDb::statusAvisaSinFKSupport() {
+    QFETCH(QString, archivo);
+    QFETCH(QString, clave);
+    QFETCH(QString, aviso);
+    const QString enDisco = ruta(archivo);
+    QVERIFY(QDir().mkpath(QFileInfo(enDisco).absolutePath()));
+    crear(enDisco, false);
+    escribir(odbcIni(),
+             QStringLiteral("[DSNBrenal]\nDriver=SQLite3\nDatabase=%1\n%2\n").arg(enDisco, clave).toUtf8());
+
+    const QRegularExpression lineaDeAviso(
+        QStringLiteral("^Aviso: el origen de datos DSNBrenal no tiene FKSupport=1, .*$"),
+        QRegularExpression::MultilineOption);
+    Resultado r = correr({QStringLiteral("status")});
+    QVERIFY2(r.estado == 0, qPrintable(r.errores));
+    QVERIFY2(r.salida.contains(
+                 QRegularExpression(QStringLiteral("^Concepto +10$"), QRegularExpression::MultilineOption)),
+             qPrintable(r.salida));
+    QCOMPARE(r.salida.contains(lineaDeAviso), !aviso.isEmpty());
+    if (aviso.isEmpty()) return;
+    const QString comando = aviso.replace(u'@', dir_->path());
+    QVERIFY2(r.salida.contains(QRegularExpression(
+                 QStringLiteral("^.*: cuentacorriente-db %1$").arg(QRegularExpression::escape(comando)),
+                 QRegularExpression::MultilineOption)),
+             qPrintable(r.salida));
+
+    crear(enDisco, false); // what the warning says to run: the database stays, DSNBrenal is written anew
+    r = correr({QStringLiteral("status")});
+    QVERIFY2(r.estado == 0 && !r.salida.contains(lineaDeAviso), qPrintable(r.salida + r.errores));
 }
 
 void TstCuentacorrienteDb::backupConLaBaseEnUso_data() {

@@ -67,7 +67,11 @@ void registrarOrigen(const QString& archivo) {
 
 Origen leerOrigen() {
     ModoConfiguracion modo(ODBC_BOTH_DSN);
-    return {leerClave("Driver"), leerClave("Database")};
+    return {leerClave("Driver"), leerClave("Database"), leerClave("FKSupport")};
+}
+
+bool Origen::conFKSupport() const {
+    return !fkSupport.isEmpty() && QStringLiteral("123456789YyTt").contains(fkSupport.front());
 }
 
 } // namespace basedatos

@@ -15,7 +15,11 @@ void registrarOrigen(const QString& archivo);
 struct Origen {
     QString controlador;
     QString archivo;
+    QString fkSupport; // as written
     bool registrado() const { return !controlador.isEmpty() || !archivo.isEmpty(); }
+    // Whether FKSupport is on, as the SQLite driver reads a yes/no key: a value that starts with a
+    // digit other than 0, or with Y or T. registrarOrigen writes 1.
+    bool conFKSupport() const;
 };
 Origen leerOrigen();
 

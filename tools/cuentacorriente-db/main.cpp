@@ -2,7 +2,8 @@
 //
 //   cuentacorriente-db init [--file RUTA] [--demo]   creates the database (never over an existing one)
 //                                                    and registers DSNBrenal on it
-//   cuentacorriente-db status                        where DSNBrenal points, schema version, rows per table
+//   cuentacorriente-db status                        where DSNBrenal points, schema version, rows per table,
+//                                                    and a warning when DSNBrenal lacks FKSupport=1
 //   cuentacorriente-db backup ARCHIVO [--file RUTA]  a consistent copy while the store keeps working
 //
 // Without --file the database is DSNBrenal's file (init: $XDG_DATA_HOME/cuentacorriente/brenal.db).
@@ -15,6 +16,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QRegularExpression>
 #include <QTextStream>
 #include <optional>
 
@@ -69,8 +71,7 @@ void exigirSinSobrantes(const Argumentos& a, int posicionales, bool admiteArchiv
 }
 
 // The file DSNBrenal names; an Error when it names none.
-QString archivoDelOrigen() {
-    const Origen origen = leerOrigen();
+QString archivoDelOrigen(const Origen& origen = leerOrigen()) {
     if (!origen.registrado())
         throw Error(QStringLiteral("El origen de datos %1 no está registrado. Para crear la base y "
                                    "registrarlo: cuentacorriente-db init")
@@ -79,6 +80,13 @@ QString archivoDelOrigen() {
         throw Error(QStringLiteral("El origen de datos %1 no indica un archivo de base de datos (Database).")
                         .arg(nombreOrigen));
     return origen.archivo;
+}
+
+// A path as typed at a shell prompt: quoted when it holds anything but plain characters.
+QString paraLaConsola(QString ruta) {
+    static const QRegularExpression especial(QStringLiteral("[^\\w@%+=:,./-]"));
+    if (!ruta.contains(especial)) return ruta;
+    return QLatin1Char('\'') + ruta.replace(QLatin1Char('\''), QLatin1String("'\\''")) + QLatin1Char('\'');
 }
 
 int init(const Argumentos& a, QTextStream& salida) {
@@ -110,7 +118,8 @@ int init(const Argumentos& a, QTextStream& salida) {
 
 int status(const Argumentos& a, QTextStream& salida) {
     exigirSinSobrantes(a, 0, false, false);
-    const QString archivo = archivoDelOrigen();
+    const Origen origen = leerOrigen();
+    const QString archivo = archivoDelOrigen(origen);
     QString motivo;
     switch (clasificarArchivo(archivo, &motivo)) {
     case ClaseDeArchivo::NoExiste:
@@ -124,6 +133,13 @@ int status(const Argumentos& a, QTextStream& salida) {
         break;
     }
     escribirEstado(archivo, leerEstado(archivo), salida);
+    // The schema's guards hold on any connection, but a data source registered by hand may lack what
+    // init writes; say so, and how to put it right without touching the database.
+    if (!origen.conFKSupport())
+        salida << "\nAviso: el origen de datos " << nombreOrigen
+               << " no tiene FKSupport=1, la opción que la base de datos espera de él.\n"
+               << "Para registrarlo de nuevo con ella, sin tocar la base: cuentacorriente-db init --file "
+               << paraLaConsola(archivo) << '\n';
     return 0;
 }
 

@@ -16,8 +16,13 @@ using namespace shell;
 
 namespace {
 
-const QString kVista = QStringLiteral("Select * From vwSaldosXNotaIngreso");
-const QString kVistaConWhere = QStringLiteral("Select * From vwSaldosXNotaIngreso Where hidProveedorID = 1");
+// The columns are named, so that what the view adds later beside them leaves these layouts alone.
+const QString kColumnas = QStringLiteral("hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, "
+                                         "shw2500_str_Descripcion_general, shw1200_dbl_Total, "
+                                         "shw1200_dbl_Cancelado, hidProveedorID");
+const QString kVista = QStringLiteral("Select %1 From vwSaldosXNotaIngreso").arg(kColumnas);
+const QString kVistaConWhere =
+    QStringLiteral("Select %1 From vwSaldosXNotaIngreso Where hidProveedorID = 1").arg(kColumnas);
 const QString kTitulo = QStringLiteral("Busca notas de ingreso");
 
 // Three goods-in notes: 101 (1,500.50, "Refrigeradoras MUÑOZ"), 102 (800.00, "Estufas", another
@@ -78,6 +83,8 @@ private Q_SLOTS:
     void devuelveLaFilaEntera_data();
     void devuelveLaFilaEntera();
     void cadaCargaArmaSusPropiasCajas();
+    void filtroDelSaldoDeLosPagos_data();
+    void filtroDelSaldoDeLosPagos();
 
 private:
     // Opens the search as a caller does, runs `accion` while it is shown and, if the action did not
@@ -189,7 +196,8 @@ void TstBusca::buscarComponeLaCondicion_data() {
                               << QString::fromUtf8(condicion) << QString::fromUtf8(quedan).split(u'|')
                               << QString::fromUtf8(notas).split(u' ', Qt::SkipEmptyParts) << QString(modo);
     };
-    const QString select = QStringLiteral("select * from vwSaldosXNotaIngreso where shw1200_dbl_Total > 0");
+    const QString select =
+        QStringLiteral("select %1 from vwSaldosXNotaIngreso where shw1200_dbl_Total > 0").arg(kColumnas);
     fila("acentos: muñoz halla MUÑOZ", kVista, "||muñoz",
          " Where shw2500_str_Descripcion_general Like '%muñoz%'", "||muñoz||", "101");
     fila("texto, con Where", kVistaConWhere, "||a", " And shw2500_str_Descripcion_general Like '%a%'",
@@ -333,6 +341,65 @@ void TstBusca::cadaCargaArmaSusPropiasCajas() {
     QCOMPARE(Common::Parametros(1).toInt(), 2);
     QCOMPARE(Common::Parametros(2).toInt(), 2);
     QCOMPARE(entorno_->titulosModales, (QStringList{kTitulo, "Busca"}));
+}
+
+void TstBusca::filtroDelSaldoDeLosPagos_data() {
+    QTest::addColumn<int>("proveedor");
+    QTest::addColumn<QString>("texto");     // typed in the Saldo box
+    QTest::addColumn<QString>("condicion"); // what "&Buscar" appends
+    QTest::addColumn<QStringList>("notas"); // the rows the grid then shows, by No Nota
+    QTest::addColumn<QStringList>("saldosMostrados");
+    QTest::newRow("saldo con centavos de una nota pagada en parte")
+        << 1 << "1000.25"
+        << " And shw1200_dbl_Saldo = 1000.25" << QStringList{"101"} << QStringList{"1000.25"};
+    QTest::newRow("saldo entero") << 2 << "800"
+                                  << " And shw1200_dbl_Saldo = 800" << QStringList{"102"}
+                                  << QStringList{"800.00"};
+    QTest::newRow("escrito como se muestra")
+        << 2 << "800.00"
+        << " And shw1200_dbl_Saldo = 800" << QStringList{"102"} << QStringList{"800.00"};
+    QTest::newRow("el total no es el saldo")
+        << 1 << "1500.50"
+        << " And shw1200_dbl_Saldo = 1500.5" << QStringList{} << QStringList{};
+    QTest::newRow("otro saldo") << 1 << "1000.2"
+                                << " And shw1200_dbl_Saldo = 1000.2" << QStringList{} << QStringList{};
+}
+
+// The payables screen lists the open notes of a supplier with their balance as formatted text under
+// the name shw1200_dbl_Saldo; the number typed in that column's box must find the note it names.
+void TstBusca::filtroDelSaldoDeLosPagos() {
+    QFETCH(int, proveedor);
+    QFETCH(QString, texto);
+    QFETCH(QString, condicion);
+    QFETCH(QStringList, notas);
+    QFETCH(QStringList, saldosMostrados);
+    base_->sqlite(QStringLiteral(
+        "INSERT INTO Documento (DocumentoID, NumeroDocumento, ProveedorID, Fecha, Descripcion) "
+        "VALUES (1, 1, 1, '2026-11-24', 'Abono');"
+        "INSERT INTO DocumentoDetalle (DocumentoID, IngresoID, Valor) VALUES (1, 1, 500.25);"));
+    const QString consulta =
+        QStringLiteral(
+            "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+            "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+            "vwSaldosXNotaIngreso Where hidProveedorID = %1 And shw1200_dbl_Total - "
+            "shw1200_dbl_Cancelado > 0 ")
+            .arg(proveedor);
+    QString fuente;
+    QStringList antes, mostradas, saldos;
+    abrir(consulta, kTitulo, [&](frmBusca& f) {
+        QCOMPARE(caja(&f, 4)->property("Tag").toString(), QStringLiteral("shw1200_dbl_Saldo"));
+        antes = columnaMostrada(f, 1);
+        buscar(f, {"", "", "", texto});
+        fuente = f.ado->RecordSource();
+        mostradas = columnaMostrada(f, 1);
+        saldos = columnaMostrada(f, 4);
+    });
+    QCOMPARE(entorno_->fallos.size(), 0);
+    // Unfiltered, the supplier's open notes are there to be found.
+    QCOMPARE(antes.size(), 1);
+    QCOMPARE(fuente, consulta + condicion);
+    QCOMPARE(mostradas, notas);
+    QCOMPARE(saldos, saldosMostrados); // still the formatted text the screen shows
 }
 
 QTEST_MAIN(TstBusca)
