@@ -7,10 +7,24 @@
 
 namespace store {
 
-// The driver's own text for a failure, as the user is shown it.
+// The driver's own text for a failure, as the user is shown it: without the names of the ODBC
+// components in brackets before it ("[SQLite]") nor the native code SQLite's driver adds after it
+// (" (19)"), so that a message the database raises, such as a guard's, reaches the clerk as written.
 inline QString textoError(const QSqlError& e) {
-    const QString texto = e.databaseText().trimmed();
-    return texto.isEmpty() ? e.text().trimmed() : texto;
+    QString texto = e.databaseText().trimmed();
+    if (texto.isEmpty()) texto = e.text().trimmed();
+    while (texto.startsWith(QLatin1Char('['))) {
+        const qsizetype cierre = texto.indexOf(QLatin1Char(']'));
+        if (cierre < 0) break;
+        texto = texto.mid(cierre + 1).trimmed();
+    }
+    const qsizetype abre = texto.lastIndexOf(QLatin1String(" ("));
+    if (abre > 0 && texto.endsWith(QLatin1Char(')'))) {
+        bool numero = false;
+        texto.mid(abre + 2, texto.size() - abre - 3).toInt(&numero);
+        if (numero) texto.truncate(abre);
+    }
+    return texto.trimmed();
 }
 
 // Whether the database refused because another connection holds its lock (SQLite's BUSY and LOCKED,

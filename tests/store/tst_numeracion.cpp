@@ -1,6 +1,5 @@
 // The number offered to a new document and the type of a concept.
 #include "BaseDePrueba.h"
-#include "EsquemaDePrueba.h"
 #include "NumeroDelFallo.h"
 #include "store/Fallo.h"
 #include "store/Numeracion.h"
@@ -28,11 +27,8 @@ private:
 };
 
 void TstNumeracion::init() {
-    base_ = std::make_unique<BaseDePrueba>();
-    base_->sqlite(esquemaDePrueba());
-    base_->sqlite(
-        QStringLiteral("INSERT INTO Concepto (Descripcion, Tipo) VALUES ('Enganche', 1), ('Flete', NULL), "
-                       "('Cuota mensual', 3);"));
+    // The schema's own concepts: 1 enganche, 2 first payment, 3 instalment, 4 mora, 5 to 10 ordinary.
+    base_ = std::make_unique<BaseDePrueba>(true);
     cn_ = Conexion(QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=DSNBrenal;"));
     cn_.Open();
 }
@@ -42,29 +38,65 @@ void TstNumeracion::cleanup() {
     base_.reset();
 }
 
+// The six numbered documents, as their screens ask: `filas` are the numbers already stored, in the
+// order of their keys.
 void TstNumeracion::siguienteNumero_data() {
-    QTest::addColumn<QString>("filas");
+    QTest::addColumn<QString>("tabla");
+    QTest::addColumn<QString>("campo");
     QTest::addColumn<QString>("condicion");
+    QTest::addColumn<QString>("filas");
     QTest::addColumn<int>("numero");
-    QTest::newRow("tabla vacia") << ""
-                                 << "ReciboID>0" << 1;
-    QTest::newRow("maximo mas uno") << "(4),(7),(5)"
-                                    << "ReciboID>0" << 8;
-    QTest::newRow("solo numeros Null") << "(NULL),(NULL)"
-                                       << "ReciboID>0" << 1;
-    QTest::newRow("la condicion cuenta") << "(4),(7)"
-                                         << "ReciboID<2" << 5;
-    QTest::newRow("ninguna fila cumple") << "(4),(7)"
-                                         << "ReciboID<0" << 1;
+    QTest::newRow("tabla vacia") << "Recibo"
+                                 << "NumeroRecibo"
+                                 << "ReciboID>0"
+                                 << "" << 1;
+    QTest::newRow("maximo mas uno") << "Recibo"
+                                    << "NumeroRecibo"
+                                    << "ReciboID>0"
+                                    << "(4),(7),(5)" << 8;
+    QTest::newRow("solo numeros Null") << "Recibo"
+                                       << "NumeroRecibo"
+                                       << "ReciboID>0"
+                                       << "(NULL),(NULL)" << 1;
+    QTest::newRow("la condicion cuenta") << "Recibo"
+                                         << "NumeroRecibo"
+                                         << "ReciboID<2"
+                                         << "(4),(7)" << 5;
+    QTest::newRow("ninguna fila cumple") << "Recibo"
+                                         << "NumeroRecibo"
+                                         << "ReciboID<0"
+                                         << "(4),(7)" << 1;
+    QTest::newRow("solicitud") << "Solicitud"
+                               << "NumeroSolicitud"
+                               << "SolicitudID>0"
+                               << "(12),(3)" << 13;
+    QTest::newRow("factura") << "Factura"
+                             << "NumeroFactura"
+                             << "FacturaID>0"
+                             << "(1500),(1499)" << 1501;
+    QTest::newRow("documento") << "Documento"
+                               << "NumeroDocumento"
+                               << "DocumentoID>0"
+                               << "(9)" << 10;
+    QTest::newRow("nota de ingreso") << "NotaIngreso"
+                                     << "NumeroIngreso"
+                                     << "IngresoID>0"
+                                     << "(NULL),(40)" << 41;
+    QTest::newRow("nota de envio") << "NotaEnvio"
+                                   << "NumeroNota"
+                                   << "NotaID>0"
+                                   << "(2),(2)" << 3;
 }
 
 void TstNumeracion::siguienteNumero() {
-    QFETCH(QString, filas);
+    QFETCH(QString, tabla);
+    QFETCH(QString, campo);
     QFETCH(QString, condicion);
+    QFETCH(QString, filas);
     QFETCH(int, numero);
-    if (!filas.isEmpty()) base_->sqlite(QStringLiteral("INSERT INTO Recibo (NumeroRecibo) VALUES ") + filas);
-    QCOMPARE(SiguienteNumero(cn_, QStringLiteral("Recibo"), QStringLiteral("NumeroRecibo"), condicion),
-             numero);
+    if (!filas.isEmpty())
+        base_->sqlite(QStringLiteral("INSERT INTO %1 (%2) VALUES %3").arg(tabla, campo, filas));
+    QCOMPARE(SiguienteNumero(cn_, tabla, campo, condicion), numero);
 }
 
 void TstNumeracion::siguienteNumeroReabreLaConexion() {
@@ -80,8 +112,10 @@ void TstNumeracion::tipoConcepto_data() {
     QTest::addColumn<int>("concepto");
     QTest::addColumn<int>("tipo");
     QTest::newRow("enganche") << 1 << 1;
-    QTest::newRow("Tipo Null es 0") << 2 << 0;
+    QTest::newRow("primer pago") << 2 << 2;
     QTest::newRow("cuota") << 3 << 3;
+    QTest::newRow("mora") << 4 << 4;
+    QTest::newRow("Tipo Null es 0") << 7 << 0;
 }
 
 void TstNumeracion::tipoConcepto() {

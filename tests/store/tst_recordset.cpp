@@ -1,8 +1,8 @@
 // The recordset and the data control: reading, moving, finding, and writing rows back with the
 // column's type, the table's defaults and optimistic concurrency.
 #include "BaseDePrueba.h"
-#include "EsquemaDePrueba.h"
 #include "NumeroDelFallo.h"
+#include "runtime/Conversion.h"
 #include "store/Adodc.h"
 #include "store/Conexion.h"
 #include "store/Fallo.h"
@@ -12,8 +12,6 @@
 #include <QtTest>
 
 using namespace store;
-
-namespace {} // namespace
 
 class TstRecordset : public QObject {
     Q_OBJECT
@@ -26,6 +24,7 @@ private Q_SLOTS:
     void columnaCalculadaTipadaPorSuPrimeraFila();
     void buscar_data();
     void buscar();
+    void agregarUsaLosValoresPorDefecto_data();
     void agregarUsaLosValoresPorDefecto();
     void fuentesEditables_data();
     void fuentesEditables();
@@ -37,6 +36,8 @@ private Q_SLOTS:
     void dosEdicionesDeLaMismaFila();
     void cancelarAgregado();
     void eliminarFilaActual();
+    void eliminarFilaNombrada_data();
+    void eliminarFilaNombrada();
     void soloLectura_data();
     void soloLectura();
     void filaDentroDeLaTransaccionCompartida();
@@ -51,8 +52,7 @@ private:
 };
 
 void TstRecordset::init() {
-    base_ = std::make_unique<BaseDePrueba>();
-    base_->sqlite(esquemaDePrueba());
+    base_ = std::make_unique<BaseDePrueba>(true);
     base_->sqlite(QStringLiteral(
         "INSERT INTO Banco (Nombre, Direccion) VALUES ('Banco Industrial', 'Zona 4'), ('Banrural', NULL), "
         "('G&T Continental', 'Zona 9'), ('Bantrab', 'Zona 1'), ('Banrural', 'Mixco');"
@@ -76,15 +76,15 @@ Recordset* TstRecordset::abrir(const QString& fuente, TipoBloqueo bloqueo) {
 
 void TstRecordset::camposPorNombreYPosicion() {
     Recordset* rs = abrir(QStringLiteral("Select * From Cliente"));
-    QCOMPARE(rs->FieldCount(), 9);
+    QCOMPARE(rs->FieldCount(), 12);
     QCOMPARE(rs->Fields(QStringLiteral("nombres")).Value().toString(), QStringLiteral("Ana"));
     QCOMPARE(rs->Fields(QStringLiteral("APELLIDOS")).Value().toString(), QStringLiteral("Muñoz"));
-    QCOMPARE(rs->Fields(4).Name(), QStringLiteral("FechaNacimiento"));
-    QCOMPARE(rs->Fields(4).Value().toDate(), QDate(1990, 5, 1));
+    QCOMPARE(rs->Fields(3).Name(), QStringLiteral("FechaNacimiento"));
+    QCOMPARE(rs->Fields(3).Value().toDate(), QDate(1990, 5, 1));
     QCOMPARE(rs->Fields(QStringLiteral("Limite")).Value().toDouble(), 1500.0);
     QVERIFY(!rs->Fields(QStringLiteral("NIT")).Value().isValid()); // Null
     QCOMPARE(numeroDelFallo([&] { rs->Fields(QStringLiteral("NoExiste")); }), FalloCampoInexistente);
-    QCOMPARE(numeroDelFallo([&] { rs->Fields(9); }), FalloCampoInexistente);
+    QCOMPARE(numeroDelFallo([&] { rs->Fields(12); }), FalloCampoInexistente);
 }
 
 // A screen that opens on "Where ... < 0" has no row: EOF and BOF are both true and reading a
@@ -155,23 +155,76 @@ void TstRecordset::buscar() {
     QCOMPARE(rs->Eof(), hallada == 0);
 }
 
-// Update of a new row writes only what was assigned, so the table's defaults apply, and the key the
-// database gave comes back; Resync brings the whole row.
+// Update of a new row writes only what was assigned, so the table's defaults apply (the ones the
+// screens rely on: active clients, guarantors and articles, a new application pending and without
+// mora, a delivery note with no origin but the one written), and the key the database gave comes
+// back; Resync brings the whole row.
+void TstRecordset::agregarUsaLosValoresPorDefecto_data() {
+    QTest::addColumn<QString>("tabla");
+    QTest::addColumn<QString>("clave");
+    QTest::addColumn<QString>("campo"); // the one field assigned
+    QTest::addColumn<QVariant>("valor");
+    QTest::addColumn<QString>("guardado");       // the assigned field as SQLite holds it
+    QTest::addColumn<QStringList>("porDefecto"); // fields left alone and the number each reads
+
+    QTest::newRow("cliente") << "Cliente"
+                             << "ClienteID"
+                             << "Nombres" << QVariant("Luis") << "Luis"
+                             << QStringList{"Activo=1", "Limite=0"};
+    QTest::newRow("fiador") << "Fiador"
+                            << "FiadorID"
+                            << "Nombres" << QVariant("Jorge") << "Jorge"
+                            << QStringList{"Activo=1", "CasaPropia=0", "TrabajoSueldo=0"};
+    QTest::newRow("articulo") << "Articulo"
+                              << "ArticuloID"
+                              << "Nombre" << QVariant("Estufa") << "Estufa"
+                              << QStringList{"Activo=1", "Costo=0", "ContadoPorcentaje=0"};
+    QTest::newRow("solicitud") << "Solicitud"
+                               << "SolicitudID"
+                               << "Fecha" << QVariant("22/11/2026") << "2026-11-22"
+                               << QStringList{"Estado=0", "Mora=0", "ClienteID=0", "FiadorID=0"};
+    QTest::newRow("nota de envio") << "NotaEnvio"
+                                   << "NotaID"
+                                   << "FacturaID" << QVariant(4) << "4"
+                                   << QStringList{"SolicitudID=0", "ReciboID=0"};
+    QTest::newRow("recibo") << "Recibo"
+                            << "ReciboID"
+                            << "Efectivo" << QVariant("1,250.75") << "1250.75"
+                            << QStringList{"BancoID=0", "ChequeValor=0", "SolicitudID=0"};
+}
+
 void TstRecordset::agregarUsaLosValoresPorDefecto() {
-    Recordset* rs = abrir(QStringLiteral("Select * From Cliente Where ClienteID < 0"));
+    QFETCH(QString, tabla);
+    QFETCH(QString, clave);
+    QFETCH(QString, campo);
+    QFETCH(QVariant, valor);
+    QFETCH(QString, guardado);
+    QFETCH(QStringList, porDefecto);
+    // A row already there, so the new key is not simply the first.
+    base_->sqlite(QStringLiteral("INSERT INTO %1 (%2) VALUES (7)").arg(tabla, clave));
+
+    Recordset* rs = abrir(QStringLiteral("Select * From %1 Where %2 < 0").arg(tabla, clave));
     rs->AddNew();
     QCOMPARE(rs->EditMode(), int(adEditAdd));
-    rs->Fields(QStringLiteral("Nombres")) = QStringLiteral("Luis");
-    rs->Fields(QStringLiteral("Apellidos")) = QStringLiteral("García");
+    rs->Fields(campo) = valor;
     rs->Update();
     QCOMPARE(rs->EditMode(), int(adEditNone));
-    QCOMPARE(rs->Fields(QStringLiteral("ClienteID")).Value().toInt(), 2);
-    QVERIFY(!rs->Fields(QStringLiteral("Activo")).Value().isValid()); // not read back yet
+    QCOMPARE(rs->Fields(clave).Value().toInt(), 8);
+    const QString primero = porDefecto.first().section(QLatin1Char('='), 0, 0);
+    QVERIFY(!rs->Fields(primero).Value().isValid()); // not read back yet
     rs->Resync();
-    QCOMPARE(rs->Fields(QStringLiteral("Activo")).Value().toInt(), 1);
-    QCOMPARE(rs->Fields(QStringLiteral("ClienteID")).Value().toInt(), 2);
-    QCOMPARE(base_->valor(QStringLiteral("SELECT Activo FROM Cliente WHERE Nombres = 'Luis'")),
-             QStringLiteral("1"));
+    QCOMPARE(rs->Fields(clave).Value().toInt(), 8);
+    QCOMPARE(base_->valor(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = 8").arg(campo, tabla, clave)),
+             guardado);
+    for (const QString& par : porDefecto) {
+        const QString nombre = par.section(QLatin1Char('='), 0, 0);
+        const double numero = par.section(QLatin1Char('='), 1).toDouble();
+        QVERIFY2(!runtime::EsNulo(rs->Fields(nombre).Value()), qPrintable(nombre));
+        QCOMPARE(runtime::ValNulo(rs->Fields(nombre).Value()), numero);
+        QCOMPARE(base_->valor(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = 8").arg(nombre, tabla, clave))
+                     .toDouble(),
+                 numero);
+    }
     QCOMPARE(rs->RecordCount(), 1);
 }
 
@@ -320,6 +373,51 @@ void TstRecordset::eliminarFilaActual() {
     rs->MoveFirst();
     base_->sqlite(QStringLiteral("DELETE FROM Banco WHERE BancoID = 1"));
     QCOMPARE(numeroDelFallo([&] { rs->Delete(); }), FalloFilaCambiada);
+}
+
+// The bank and supplier screens delete their current row through the recordset: a row that another
+// one names is refused with the general failure and the guard's text, and stays, in the database and
+// as the recordset's current row.
+void TstRecordset::eliminarFilaNombrada_data() {
+    QTest::addColumn<QString>("referencia"); // SQLite's SQL
+    QTest::addColumn<QString>("fuente");
+    QTest::addColumn<int>("posicion");
+    QTest::addColumn<QString>("fila"); // counts the row in the file
+    QTest::addColumn<QString>("mensaje");
+    QTest::newRow("banco de un recibo")
+        << "INSERT INTO Recibo (NumeroRecibo, BancoID) VALUES (1, 3)"
+        << "Select * From Banco Order By BancoID" << 3 << "SELECT count(*) FROM Banco WHERE BancoID = 3"
+        << "No puede eliminarse el banco: hay recibos o facturas que lo nombran.";
+    QTest::newRow("proveedor de una nota de ingreso")
+        << "INSERT INTO Proveedor (ProveedorID, Nombre) VALUES (4, 'Elektra');"
+           "INSERT INTO NotaIngreso (NumeroIngreso, ProveedorID) VALUES (401, 4)"
+        << "Select * From Proveedor Where ProveedorID = 4" << 1
+        << "SELECT count(*) FROM Proveedor WHERE ProveedorID = 4"
+        << "No puede eliminarse el proveedor: hay notas de ingreso o documentos por pagar que lo nombran.";
+}
+
+void TstRecordset::eliminarFilaNombrada() {
+    QFETCH(QString, referencia);
+    QFETCH(QString, fuente);
+    QFETCH(int, posicion);
+    QFETCH(QString, fila);
+    QFETCH(QString, mensaje);
+    base_->sqlite(referencia);
+    Recordset* rs = abrir(fuente);
+    rs->setAbsolutePosition(posicion);
+    const int filas = rs->RecordCount();
+    const QVariant clave = rs->Fields(0).Value();
+    try {
+        rs->Delete();
+        QFAIL("deleted a row that another one names");
+    } catch (const Fallo& f) {
+        QCOMPARE(f.numeroHex(), QStringLiteral("80004005"));
+        QCOMPARE(f.descripcion(), mensaje);
+    }
+    QCOMPARE(base_->valor(fila), QStringLiteral("1"));
+    QCOMPARE(rs->RecordCount(), filas);
+    QCOMPARE(rs->AbsolutePosition(), posicion);
+    QCOMPARE(rs->Fields(0).Value(), clave);
 }
 
 void TstRecordset::soloLectura_data() {

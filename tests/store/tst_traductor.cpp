@@ -1,5 +1,10 @@
-// The translation of the system's dialect into SQLite's SQL, and what the translator refuses.
+// The translation of the system's dialect into SQLite's SQL, what the translator refuses, and what the
+// statements the screens compose give back from a real database.
+#include "BaseDePrueba.h"
+#include "runtime/Conversion.h"
+#include "store/Conexion.h"
 #include "store/Fallo.h"
+#include "store/Recordset.h"
 #include "store/sql/DialectoSQLite.h"
 #include "store/sql/Parser.h"
 
@@ -35,8 +40,20 @@ private Q_SLOTS:
     void traduce();
     void refusa_data();
     void refusa();
-    void sentenciasDelSistema_data();
-    void sentenciasDelSistema();
+    void fuentesIniciales_data();
+    void fuentesIniciales();
+    void registroPorSuClave_data();
+    void registroPorSuClave();
+    void consultasDeApoyo_data();
+    void consultasDeApoyo();
+    void listasParaElegir_data();
+    void listasParaElegir();
+    void vistasDeBusqueda_data();
+    void vistasDeBusqueda();
+    void filtrosDeLaBusqueda_data();
+    void filtrosDeLaBusqueda();
+    void escrituras_data();
+    void escrituras();
 };
 
 void TstTraductor::traduce_data() {
@@ -211,50 +228,792 @@ void TstTraductor::refusa() {
     }
 }
 
-// Statements the screens compose, as they stand: each must translate (their results are checked
-// against a real database in the connection tests).
-void TstTraductor::sentenciasDelSistema_data() {
-    QTest::addColumn<QString>("sentencia");
-    const char* const sentencias[] = {
-        "Select * From Proveedor Where ProveedorID < 0",
-        "Select * From Articulo Where ArticuloID <0",
-        "Select * From NotaEnvio Where NotaID<0",
-        "Select EstadoCivilID From EstadoCivil Where EstadoCivilID<0 ",
-        "Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, P.Nombre, D.Fecha, D.Descripcion From "
-        "Documento D INNER "
-        "JOIN Proveedor P ON D.ProveedorID = P.ProveedorID Where D.DocumentoID < 0",
-        "Select H.Fecha, H.Descripcion, H.Valor, C.ClasificacionID, C.Descripcion as Clasificacion From "
-        "ClienteHistorial "
-        "H, Clasificacion C Where H.ClasificacionID = C.ClasificacionID And H.ClienteID = 3",
-        "Select shw3800_str_Descripcion_del_articulo & ' ' & shw1200_str_Modelo & ' '& shw1200_str_Color as "
-        "Descripcion, "
-        "shw900_dbl_Costo as Costo, shw1000_dbl_Existencia as Existencia From vwBuscaArticulo Where hidID = "
-        "5",
-        "Select vwBS.*, S.Descuento From vwBuscaSolicitud vwBS, Solicitud S Where vwBS.hidID = S.SolicitudID "
-        "And "
-        "vwBS.shw1200_int_Solicitud = 12",
-        "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
-        "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
-        "vwSaldosXNotaIngreso Where "
-        "hidProveedorID = 2 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0 ",
-        "Select ConceptoID as Codigo, Descripcion From Concepto Where IsNull(Tipo)Order By 2,1",
-        "Insert Into ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
-        "(4,2,0,1,150.00)",
-        "Insert Into FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES "
-        "(1,3,2,0,125.50)",
-        "Update Cliente Set NIT = 'C/F' Where ClienteID = 9",
-        "Select Max(NumeroRecibo) as Maximo From Recibo Where ReciboID>0",
-        "Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo <= 0 And shw3000_str_Nombre_del_cliente Like "
-        "'%ana%' And "
-        "shw1200_int_Solicitud = 0",
-    };
-    for (const char* s : sentencias)
-        QTest::newRow(s) << QString::fromUtf8(s);
+// The statements the screens compose, with the values they splice in, run through the store on a
+// database built from the project's schema and holding the rows below. A read gives back the fields
+// the screens read by name; a write changes exactly the rows a second look at the file shows.
+
+namespace {
+
+// Known rows, with their keys written out so that the statements can name them. What the views make
+// of them: stock 4, 3 and 12 (articles 1 to 3); application 101 owes 6325 (6900 of lines, 100
+// discount, 500 of enganche paid, mora 40 of which 15 paid), 102 owes 200 and 103 nothing; goods-in
+// note 401 is paid in full, 402 has 0.50 left and 403 (of the other supplier) all its 280.
+const char* const kFilasConocidas = R"(
+INSERT INTO Banco (BancoID, Nombre, Direccion) VALUES (1, 'Banco Industrial', 'Zona 4'), (2, 'Banrural', NULL);
+INSERT INTO Proveedor (ProveedorID, Nombre, NIT, Direccion, Telefonos, Contacto) VALUES
+    (1, 'Distribuidora Elektra', '123456-7', 'Zona 12', '2222-3333', 'Carlos Paz'),
+    (2, 'Muebles Ñandú', 'C/F', NULL, NULL, NULL);
+INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor,
+                      CreditoPorcentaje, CreditoValor) VALUES
+    (1, 'Refrigeradora', 'RF-200', 'Blanco', 2500, 20, 0, 40, 0),
+    (2, 'Estufa', 'E-4', 'Negro', 1200.5, 0, 299.5, 0, 499.5),
+    (3, 'Licuadora', 'L1', NULL, 150, 0, 0, 0, 0);
+INSERT INTO Cliente (ClienteID, Nombres, Apellidos, FechaNacimiento, NIT, CedulaRegistro, CedulaNumero,
+                     CodigoLetra, CodigoNumero, Limite, Activo) VALUES
+    (1, 'Ana', 'MUÑOZ', '1990-05-01', '1234567-8', 'A-1', '12345', 'M', 1, 5000, 1),
+    (2, 'Luis', 'García', NULL, NULL, NULL, NULL, 'G', 7, 0, 1),
+    (3, 'Eva', 'Pérez', NULL, NULL, NULL, NULL, 'P', 2, 0, 0),
+    (4, 'José', 'Gómez', NULL, NULL, NULL, NULL, 'G', 3, 0, 1);
+INSERT INTO ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, ClasificacionID) VALUES
+    (1, '2025-06-01', 'Pago puntual', 0, 1), (1, '2025-09-15', 'Atraso de cuota', 150.75, 3),
+    (2, '2025-07-01', 'Referencia', 0, 2);
+INSERT INTO Fiador (FiadorID, Nombres, Apellidos, EstadoCivilID, Telefonos, Activo) VALUES
+    (1, 'Jorge', 'López', 2, '5555-1111', 1), (2, 'Marta', 'Ruiz', NULL, NULL, 1), (3, 'Raúl', 'Díaz', 1, NULL, 0);
+INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, FiadorID, CasaDireccion, Descuento,
+                       Enganche, PrimerPago, MesesCredito, Estado, Mora) VALUES
+    (1, 101, '2026-01-05', 1, 1, ' 5a calle 3-20 zona 1 ', 100, 500, 300, 10, 1, 40),
+    (2, 102, '2026-01-20', 2, 0, NULL, 0, 0, 0, 0, 0, 0),
+    (3, 103, '2026-02-03', 2, 1, NULL, 0, 0, 0, 0, 3, 0);
+INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES
+    (1, 1, 1, 3500), (1, 2, 2, 3400), (2, 3, 1, 200);
+INSERT INTO Recibo (ReciboID, NumeroRecibo, Fecha, SolicitudID, ClienteID, Nombre, BancoID, ChequeNumero,
+                    ChequeValor, Efectivo) VALUES
+    (1, 201, '2026-02-10', 1, 0, NULL, 1, '778', 500, 15),
+    (2, 202, '2026-03-01', 0, 3, NULL, 0, NULL, 0, 425);
+INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES
+    (1, 1, 0, 1, 500), (1, 4, 0, 1, 15), (2, 0, 3, 2, 200), (2, 7, 0, 1, 25);
+INSERT INTO Factura (FacturaID, NumeroFactura, Fecha, SolicitudID, ClienteID, Nombre, NIT, Descuento, BancoID,
+                     Efectivo, Estado) VALUES
+    (1, 301, '2026-02-15', 0, 0, 'Pedro Sosa', 'C/F', 50, 2, 1850, 0);
+INSERT INTO FacturaDetalle (FacturaID, ArticuloID, ConceptoID, Cantidad, EsCredito, Precio) VALUES
+    (1, 2, 0, 2, 0, 900), (1, 0, 7, 1, 0, 100);
+INSERT INTO NotaIngreso (IngresoID, NumeroIngreso, ProveedorID, Fecha, Descripcion) VALUES
+    (1, 401, 1, '2026-01-02', 'Compra de enero'), (2, 402, 1, '2026-01-20', 'Compra de estufas'),
+    (3, 403, 2, '2026-02-05', 'Muebles de sala');
+INSERT INTO NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES
+    (1, 1, 5, 2500), (1, 3, 10, 150), (2, 2, 4, 1200.5), (3, 3, 2, 140);
+INSERT INTO NotaEnvio (NotaID, NumeroNota, Fecha, SolicitudID, FacturaID, ReciboID, Direccion) VALUES
+    (1, 501, '2026-02-20', 1, 0, 0, '5a calle 3-20 zona 1'), (2, 502, '2026-03-02', 0, 1, 0, 'Mixco');
+INSERT INTO NotaEnvioDetalle (NotaID, ArticuloID, Cantidad) VALUES (1, 1, 1), (2, 2, 1);
+INSERT INTO Documento (DocumentoID, NumeroDocumento, ProveedorID, Fecha, Descripcion) VALUES
+    (1, 601, 1, '2026-02-01', 'Abono a compras');
+INSERT INTO DocumentoDetalle (DocumentoID, IngresoID, Valor) VALUES (1, 1, 14000), (1, 2, 4801.5);
+)";
+
+// A fresh database with the known rows, and the shared connection open on it.
+struct TiendaConocida {
+    TiendaConocida() {
+        base.sqlite(QString::fromUtf8(kFilasConocidas));
+        cn.Open();
+    }
+    BaseDePrueba base{true};
+    Conexion cn{QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=DSNBrenal;")};
+};
+
+// The named fields of every row, as "a|b" lines joined by ";"; a Null reads "Null". A statement
+// without Order By leaves the order to the database, so its lines are compared sorted.
+QString leer(Conexion& cn, const QString& sentencia, const QString& campos) try {
+    Recordset rs;
+    rs.Open(sentencia, cn);
+    const QStringList nombres = campos.split(QLatin1Char(','));
+    for (const QString& nombre : nombres)
+        if (rs.indiceCampo(nombre) < 0) return QStringLiteral("(no hay campo %1)").arg(nombre);
+    QStringList lineas;
+    for (; !rs.Eof(); rs.MoveNext()) {
+        QStringList celdas;
+        for (const QString& nombre : nombres) {
+            const QVariant v = rs.Fields(nombre).Value();
+            celdas << (runtime::EsNulo(v) ? QStringLiteral("Null") : runtime::TextoDe(v));
+        }
+        lineas << celdas.join(QLatin1Char('|'));
+    }
+    if (!sentencia.contains(QLatin1String("Order By"), Qt::CaseInsensitive)) lineas.sort();
+    return lineas.join(QLatin1Char(';'));
+} catch (const Fallo& f) {
+    return QStringLiteral("(Fallo %1: %2)").arg(f.numeroHex(), f.descripcion());
 }
 
-void TstTraductor::sentenciasDelSistema() {
+void columnasDeLectura() {
+    QTest::addColumn<QString>("sentencia");
+    QTest::addColumn<QString>("campos");
+    QTest::addColumn<QString>("resultado");
+}
+
+void comprobarLectura() {
     QFETCH(QString, sentencia);
-    QVERIFY(traducir(sentencia).startsWith(sentencia.section(QLatin1Char(' '), 0, 0).toUpper()));
+    QFETCH(QString, campos);
+    QFETCH(QString, resultado);
+    TiendaConocida tienda;
+    QCOMPARE(leer(tienda.cn, sentencia, campos), resultado);
+}
+
+} // namespace
+
+// What each data control loads first: the whole small tables, and for every other screen an empty
+// set that still carries the columns the screen binds.
+void TstTraductor::fuentesIniciales_data() {
+    columnasDeLectura();
+    QTest::newRow("adoBanco") << "Select * From Banco"
+                              << "BancoID,Nombre,Direccion"
+                              << "1|Banco Industrial|Zona 4;2|Banrural|Null";
+    QTest::newRow("adoEstadoCivil") << "Select * From EstadoCivil"
+                                    << "EstadoCivilID,Descripcion"
+                                    << "1|Soltero(a);2|Casado(a);3|Unido(a);4|Divorciado(a);5|Viudo(a)";
+    QTest::newRow("adoProveedor") << "Select * From Proveedor Where ProveedorID < 0"
+                                  << "ProveedorID,Nombre,NIT,Direccion,Telefonos,Fax,Contacto"
+                                  << "";
+    QTest::newRow("adoArticulo") << "Select * From Articulo Where ArticuloID <0"
+                                 << "ArticuloID,Nombre,Costo,ContadoPorcentaje,CreditoValor,Activo"
+                                 << "";
+    QTest::newRow("CrearArticulo") << "Select * From Articulo Where ArticuloID < 0"
+                                   << "ArticuloID,Modelo,Color,ContadoValor,CreditoPorcentaje"
+                                   << "";
+    QTest::newRow("adoCliente") << "Select * From Cliente Where ClienteID < 0"
+                                << "ClienteID,Nombres,FechaNacimiento,CodigoLetra,CodigoNumero,Activo"
+                                << "";
+    QTest::newRow("adoFiador") << "Select * From Fiador Where FiadorID < 0"
+                               << "FiadorID,Nombres,EstadoCivilID,CasaPropia,TrabajoSueldo,Activo"
+                               << "";
+    QTest::newRow("adoSolicitud") << "Select * From Solicitud Where SolicitudID < 0"
+                                  << "SolicitudID,NumeroSolicitud,Fecha,Estado,Mora,FechaAprobacion"
+                                  << "";
+    QTest::newRow("adoFacturas") << "Select * From Factura Where FacturaID < 0"
+                                 << "FacturaID,NumeroFactura,Fecha,NIT,Descuento,Estado"
+                                 << "";
+    QTest::newRow("adoRecibos") << "Select * From Recibo Where ReciboID<0"
+                                << "ReciboID,NumeroRecibo,Fecha,SolicitudID,ChequeValor,Vuelto"
+                                << "";
+    QTest::newRow("adoNota") << "Select * From NotaEnvio Where NotaID<0"
+                             << "NotaID,NumeroNota,Fecha,SolicitudID,FacturaID,ReciboID"
+                             << "";
+    QTest::newRow("frmDocumentos")
+        << "Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, P.Nombre, D.Fecha, "
+           "D.Descripcion From Documento D INNER JOIN Proveedor P ON D.ProveedorID = "
+           "P.ProveedorID Where D.DocumentoID < 0"
+        << "DocumentoID,NumeroDocumento,ProveedorID,Nombre,Fecha,Descripcion"
+        << "";
+    QTest::newRow("frmDocumentos sin union")
+        << "Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, D.Fecha, D.Descripcion From Documento D "
+           "Where D.DocumentoID < 0"
+        << "DocumentoID,NumeroDocumento,ProveedorID,Fecha,Descripcion"
+        << "";
+    QTest::newRow("adoIngreso")
+        << "Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, P.Nombre, N.Fecha, "
+           "N.Descripcion From NotaIngreso N INNER JOIN Proveedor P ON N.ProveedorID = "
+           "P.ProveedorID Where N.IngresoID < 0"
+        << "IngresoID,NumeroIngreso,ProveedorID,Nombre,Fecha,Descripcion"
+        << "";
+    QTest::newRow("adoIngreso sin union") << "Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, N.Fecha, "
+                                             "N.Descripcion From NotaIngreso N Where N.IngresoID < 0"
+                                          << "IngresoID,NumeroIngreso,ProveedorID,Fecha,Descripcion"
+                                          << "";
+    QTest::newRow("frmListado")
+        << "Select ClienteID as Codigo, Nombres & ' ' & Apellidos as Descripcion From "
+           "Cliente Where ClienteID=-1"
+        << "Codigo,Descripcion"
+        << "";
+    QTest::newRow("frmBusca") << "Select EstadoCivilID From EstadoCivil Where EstadoCivilID<0 "
+                              << "EstadoCivilID"
+                              << "";
+}
+
+void TstTraductor::fuentesIniciales() {
+    comprobarLectura();
+}
+
+// One row brought up by its key, as a screen does after a search or a save.
+void TstTraductor::registroPorSuClave_data() {
+    columnasDeLectura();
+    QTest::newRow("proveedor") << "Select * From Proveedor Where ProveedorID = 2"
+                               << "ProveedorID,Nombre,NIT,Direccion"
+                               << "2|Muebles Ñandú|C/F|Null";
+    QTest::newRow("articulo") << "Select * From Articulo Where ArticuloID = 2"
+                              << "ArticuloID,Nombre,Costo,ContadoValor,CreditoValor"
+                              << "2|Estufa|1200.5|299.5|499.5";
+    QTest::newRow("cliente")
+        << "Select * From Cliente Where ClienteID = 1"
+        << "ClienteID,Nombres,Apellidos,FechaNacimiento,NIT,CodigoLetra,CodigoNumero,Limite"
+        << "1|Ana|MUÑOZ|01/05/1990|1234567-8|M|1|5000";
+    QTest::newRow("fiador") << "Select * From Fiador Where FiadorID = 1"
+                            << "FiadorID,Nombres,Apellidos,EstadoCivilID,Telefonos"
+                            << "1|Jorge|López|2|5555-1111";
+    QTest::newRow("solicitud")
+        << "Select * From Solicitud Where SolicitudID = 1"
+        << "SolicitudID,NumeroSolicitud,Fecha,ClienteID,FiadorID,Enganche,PrimerPago,MesesCredito,Estado,Mora"
+        << "1|101|05/01/2026|1|1|500|300|10|1|40";
+    QTest::newRow("recibo")
+        << "Select * From Recibo Where ReciboID = 1"
+        << "ReciboID,NumeroRecibo,Fecha,SolicitudID,BancoID,ChequeNumero,ChequeValor,Efectivo"
+        << "1|201|10/02/2026|1|1|778|500|15";
+    QTest::newRow("factura") << "Select * From Factura Where FacturaID = 1"
+                             << "FacturaID,NumeroFactura,Fecha,Nombre,NIT,Descuento,BancoID,Estado"
+                             << "1|301|15/02/2026|Pedro Sosa|C/F|50|2|0";
+    QTest::newRow("nota de envio") << "Select * From NotaEnvio Where NotaID = 2"
+                                   << "NotaID,NumeroNota,Fecha,SolicitudID,FacturaID,ReciboID,Direccion"
+                                   << "2|502|02/03/2026|0|1|0|Mixco";
+    QTest::newRow("nota de ingreso")
+        << "Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, P.Nombre, N.Fecha, "
+           "N.Descripcion From NotaIngreso N INNER JOIN Proveedor P ON "
+           "N.ProveedorID = P.ProveedorID Where N.IngresoID = 1"
+        << "IngresoID,NumeroIngreso,ProveedorID,Nombre,Fecha,Descripcion"
+        << "1|401|1|Distribuidora Elektra|02/01/2026|Compra de enero";
+    QTest::newRow("nota de ingreso sin union") << "Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, "
+                                                  "N.Fecha, N.Descripcion From NotaIngreso N Where "
+                                                  "N.IngresoID = 3"
+                                               << "IngresoID,NumeroIngreso,ProveedorID,Fecha,Descripcion"
+                                               << "3|403|2|05/02/2026|Muebles de sala";
+    QTest::newRow("documento")
+        << "Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, P.Nombre, D.Fecha, "
+           "D.Descripcion From Documento D INNER JOIN Proveedor P ON D.ProveedorID = "
+           "P.ProveedorID Where D.DocumentoID = 1"
+        << "DocumentoID,NumeroDocumento,ProveedorID,Nombre,Fecha,Descripcion"
+        << "1|601|1|Distribuidora Elektra|01/02/2026|Abono a compras";
+}
+
+void TstTraductor::registroPorSuClave() {
+    comprobarLectura();
+}
+
+// The lookups screens and procedures make on the shared connection: numbering, concept types,
+// client codes, duplicate numbers, lines of a document, balances, stock.
+void TstTraductor::consultasDeApoyo_data() {
+    columnasDeLectura();
+    QTest::newRow("SiguienteNumero solicitud")
+        << "Select Max(NumeroSolicitud) as Maximo From Solicitud Where SolicitudID>0"
+        << "Maximo"
+        << "103";
+    QTest::newRow("SiguienteNumero factura")
+        << "Select Max(NumeroFactura) as Maximo From Factura Where FacturaID>0"
+        << "Maximo"
+        << "301";
+    QTest::newRow("SiguienteNumero recibo")
+        << "Select Max(NumeroRecibo) as Maximo From Recibo Where ReciboID>0"
+        << "Maximo"
+        << "202";
+    QTest::newRow("SiguienteNumero documento")
+        << "Select Max(NumeroDocumento) as Maximo From Documento Where DocumentoID>0"
+        << "Maximo"
+        << "601";
+    QTest::newRow("SiguienteNumero nota de ingreso")
+        << "Select Max(NumeroIngreso) as Maximo From NotaIngreso Where IngresoID>0"
+        << "Maximo"
+        << "403";
+    QTest::newRow("SiguienteNumero nota de envio")
+        << "Select Max(NumeroNota) as Maximo From NotaEnvio Where NotaID>0"
+        << "Maximo"
+        << "502";
+    QTest::newRow("TipoConcepto") << "Select Tipo From Concepto Where ConceptoID = 3"
+                                  << "Tipo"
+                                  << "3";
+    QTest::newRow("TipoConcepto ordinario") << "Select Tipo From Concepto Where ConceptoID = 7"
+                                            << "Tipo"
+                                            << "Null";
+    QTest::newRow("SiguienteCodigo")
+        << "Select Max(CodigoNumero) as Cuenta From Cliente Where CodigoLetra = 'G' Group By CodigoLetra"
+        << "Cuenta"
+        << "7";
+    QTest::newRow("SiguienteCodigo en minuscula")
+        << "Select Max(CodigoNumero) as Cuenta From Cliente Where CodigoLetra = 'g' Group By CodigoLetra"
+        << "Cuenta"
+        << "7";
+    QTest::newRow("SiguienteCodigo de letra nueva")
+        << "Select Max(CodigoNumero) as Cuenta From Cliente Where CodigoLetra = 'Z' Group By CodigoLetra"
+        << "Cuenta"
+        << "";
+    QTest::newRow("historial del cliente")
+        << "Select H.Fecha, H.Descripcion, H.Valor, C.ClasificacionID, C.Descripcion as Clasificacion From "
+           "ClienteHistorial H, Clasificacion C Where H.ClasificacionID = C.ClasificacionID And H.ClienteID "
+           "= 1"
+        << "Fecha,Descripcion,Valor,ClasificacionID,Clasificacion"
+        << "01/06/2025|Pago puntual|0|1|Excelente;15/09/2025|Atraso de cuota|150.75|3|Regular";
+    QTest::newRow("fiador con estado civil")
+        << "Select F.*, E.Descripcion From Fiador F, EstadoCivil E Where "
+           "F.EstadoCivilID = E.EstadoCivilID And FiadorID = 1"
+        << "FiadorID,Nombres,Apellidos,Telefonos,Descripcion"
+        << "1|Jorge|López|5555-1111|Casado(a)";
+    QTest::newRow("fiador sin estado civil")
+        << "Select F.*, E.Descripcion From Fiador F, EstadoCivil E Where "
+           "F.EstadoCivilID = E.EstadoCivilID And FiadorID = 2"
+        << "FiadorID,Descripcion"
+        << "";
+    QTest::newRow("numero de solicitud repetido")
+        << "Select NumeroSolicitud From Solicitud Where NumeroSolicitud = 103"
+        << "NumeroSolicitud"
+        << "103";
+    QTest::newRow("numero de solicitud vacio")
+        << "Select NumeroSolicitud From Solicitud Where NumeroSolicitud = 0"
+        << "NumeroSolicitud"
+        << "";
+    QTest::newRow("numero de recibo repetido") << "Select NumeroRecibo From Recibo Where NumeroRecibo = 202"
+                                               << "NumeroRecibo"
+                                               << "202";
+    QTest::newRow("numero de recibo libre") << "Select NumeroRecibo From Recibo Where NumeroRecibo = 999"
+                                            << "NumeroRecibo"
+                                            << "";
+    QTest::newRow("lineas de la solicitud")
+        << "Select SD.SolicitudID, SD.ArticuloID, SD.Cantidad, A.Nombre & ' ' & A.Modelo & ' ' & A.Color as "
+           "NombreArticulo, SD.Precio From SolicitudDetalle SD INNER JOIN Articulo A ON SD.ArticuloID = "
+           "A.ArticuloID Where SD.SolicitudID = 1"
+        << "SolicitudID,ArticuloID,Cantidad,NombreArticulo,Precio"
+        << "1|1|1|Refrigeradora RF-200 Blanco|3500;1|2|2|Estufa E-4 Negro|3400";
+    QTest::newRow("linea con articulo sin color")
+        << "Select SD.SolicitudID, SD.ArticuloID, SD.Cantidad, A.Nombre & ' ' & A.Modelo & ' ' & A.Color as "
+           "NombreArticulo, SD.Precio From SolicitudDetalle SD INNER JOIN Articulo A ON SD.ArticuloID = "
+           "A.ArticuloID Where SD.SolicitudID = 2"
+        << "NombreArticulo,Precio"
+        << "Licuadora L1 |200";
+    QTest::newRow("solicitud en la factura")
+        << "Select vwBS.*, S.Descuento From vwBuscaSolicitud vwBS, Solicitud S Where vwBS.hidID = "
+           "S.SolicitudID And vwBS.shw1200_int_Solicitud = 101"
+        << "hidID,shw800_str_Estado,shw3000_str_Nombre_del_cliente,shw1200_str_NIT,Saldo,hidClienteID,"
+           "Descuento"
+        << "1|Aprobada|Ana MUÑOZ|1234567-8|6325|1|100";
+    QTest::newRow("solicitud cancelada en la factura")
+        << "Select vwBS.*, S.Descuento From vwBuscaSolicitud vwBS, Solicitud S Where vwBS.hidID = "
+           "S.SolicitudID And vwBS.shw1200_int_Solicitud = 103"
+        << "hidID,shw800_str_Estado,Saldo,Descuento"
+        << "3|Rechazada|0|0";
+    QTest::newRow("lineas de la solicitud en la factura")
+        << "Select ArticuloID, Nombre & ' ' & Modelo & ' ' & Color as Descripcion, Cantidad, Precio, Total "
+           "From vwSolicitudDetalle Where SolicitudID = 1"
+        << "ArticuloID,Descripcion,Cantidad,Precio,Total"
+        << "1|Refrigeradora RF-200 Blanco|1|3500|3500;2|Estufa E-4 Negro|2|1700|3400";
+    QTest::newRow("solicitud en el recibo")
+        << "Select hidID, shw800_str_Estado, shw3000_str_Nombre_del_cliente, shw680_str_Codigo From "
+           "vwBuscaSolicitud Where shw1200_int_Solicitud = 102"
+        << "hidID,shw800_str_Estado,shw3000_str_Nombre_del_cliente,shw680_str_Codigo"
+        << "2|Pendiente|Luis García|G7";
+    QTest::newRow("saldos de la solicitud") << "Select * From vwSaldosXSolicitud Where SolicitudID = 1"
+                                            << "Enganche,PrimerPago,Total,CuotaMensual,Mora"
+                                            << "0|300|6300|600|25";
+    QTest::newRow("lineas del recibo")
+        << "Select ConceptoID, ArticuloID, Cantidad, Descripcion, Valor, Total From "
+           "vwReciboDetalle RD Where ReciboID = 2"
+        << "ConceptoID,ArticuloID,Cantidad,Descripcion,Valor,Total"
+        << "0|3|2|Licuadora L1|200|400;7|0|1|Flete|25|25";
+    QTest::newRow("lineas de la factura")
+        << "Select * From vwFacturaDetalle Where FacturaID = 1"
+        << "ArticuloID,ConceptoID,Cantidad,EsCredito,Descripcion,Precio,Total"
+        << "0|7|1|0|Flete|100|100;2|0|2|0|Estufa E-4 Negro|900|1800";
+    QTest::newRow("ValidarVentaArticulo") << "Select shw3800_str_Descripcion_del_articulo & ' ' & "
+                                             "shw1200_str_Modelo & ' '& shw1200_str_Color as "
+                                             "Descripcion, shw900_dbl_Costo as Costo, shw1000_dbl_Existencia "
+                                             "as Existencia From vwBuscaArticulo "
+                                             "Where hidID = 2"
+                                          << "Descripcion,Costo,Existencia"
+                                          << "Estufa E-4 Negro|1200.5|3";
+    QTest::newRow("ValidarVentaArticulo sin color")
+        << "Select shw3800_str_Descripcion_del_articulo & ' ' & shw1200_str_Modelo & ' '& shw1200_str_Color "
+           "as "
+           "Descripcion, shw900_dbl_Costo as Costo, shw1000_dbl_Existencia as Existencia From "
+           "vwBuscaArticulo "
+           "Where hidID = 3"
+        << "Descripcion,Costo,Existencia"
+        << "Licuadora L1 |150|12";
+    QTest::newRow("lineas de la nota de ingreso")
+        << "Select * From vwNotaIngresoDetalle Where IngresoID = 1"
+        << "ArticuloID,Nombre,Costo,ContadoPorcentaje,Ingresos,Existencia,CostoTotal"
+        << "1|Refrigeradora|2500|20|5|4|12500;3|Licuadora|150|0|10|12|1500";
+    QTest::newRow("lineas de la nota de envio") << "Select * From vwNotaEnvioDetalle Where NotaID = 1"
+                                                << "ArticuloID,Cantidad,Nombre,Modelo,Color"
+                                                << "1|1|Refrigeradora|RF-200|Blanco";
+    QTest::newRow("lineas del documento")
+        << "Select * From vwDocumentoDetalle Where DocumentoID = 1"
+        << "IngresoID,NumeroIngreso,Fecha,Descripcion,Valor"
+        << "1|401|02/01/2026|Compra de enero|14000;2|402|20/01/2026|Compra de "
+           "estufas|4801.5";
+    QTest::newRow("envio por numero de solicitud")
+        << "Select * From vwSaldosArticulosXSolicitud Where shw1200_int_Solicitud = 101"
+        << "hidID,shw3000_str_Nombre_del_cliente,hidDireccion,shw1200_dbl_Saldo"
+        << "1|Ana MUÑOZ| 5a calle 3-20 zona 1 |2";
+    QTest::newRow("envio por numero de factura")
+        << "Select * From vwSaldosArticulosXFactura Where shw1200_int_Factura = 301"
+        << "hidFacturaID,shw3200_str_Nombre_del_cliente,shw1200_dbl_Saldo"
+        << "1|Pedro Sosa|1";
+    QTest::newRow("envio por numero de recibo")
+        << "Select * From vwSaldosArticulosXRecibo Where shw1200_int_Recibo = 202"
+        << "hidReciboID,shw3200_str_Nombre_del_cliente,shw1200_dbl_Saldo"
+        << "2|Eva Pérez|2";
+    QTest::newRow("envio de recibo sin articulos")
+        << "Select * From vwSaldosArticulosXRecibo Where shw1200_int_Recibo = 201"
+        << "hidReciboID"
+        << "";
+    QTest::newRow("pendientes de la solicitud")
+        << "Select hidArticuloID, shw3000_str_Descripcion, shw1200_int_Saldo From vwSaldoXArticuloXSolicitud "
+           "Where hidSolicitudID = 1 And shw1200_int_Saldo > 0"
+        << "hidArticuloID,shw3000_str_Descripcion,shw1200_int_Saldo"
+        << "2|Estufa E-4 Negro|2";
+    QTest::newRow("pendientes de la factura") << "Select hidArticuloID, shw3000_str_Descripcion, "
+                                                 "shw1200_int_Saldo From vwSaldoXArticuloXFactura Where "
+                                                 "hidFacturaID = 1 And shw1200_int_Saldo > 0"
+                                              << "hidArticuloID,shw3000_str_Descripcion,shw1200_int_Saldo"
+                                              << "2|Estufa E-4 Negro|1";
+    QTest::newRow("pendientes del recibo") << "Select hidArticuloID, shw3000_str_Descripcion, "
+                                              "shw1200_int_Saldo From vwSaldoXArticuloXRecibo Where "
+                                              "hidReciboID = 2 And shw1200_int_Saldo > 0"
+                                           << "hidArticuloID,shw3000_str_Descripcion,shw1200_int_Saldo"
+                                           << "3|Licuadora L1|2";
+}
+
+void TstTraductor::consultasDeApoyo() {
+    comprobarLectura();
+}
+
+// The pick lists: a numeric Codigo and a text Descripcion, in the order the list shows them.
+void TstTraductor::listasParaElegir_data() {
+    columnasDeLectura();
+    QTest::newRow("bancos") << "Select BancoID as Codigo, Nombre as Descripcion From Banco Order By Nombre"
+                            << "Codigo,Descripcion"
+                            << "1|Banco Industrial;2|Banrural";
+    QTest::newRow("proveedores")
+        << "Select ProveedorID as Codigo, Nombre as Descripcion From Proveedor Order By "
+           "Nombre"
+        << "Codigo,Descripcion"
+        << "1|Distribuidora Elektra;2|Muebles Ñandú";
+    QTest::newRow("conceptos de la factura")
+        << "Select ConceptoID as Codigo, Descripcion From Concepto Where ISNULL(Tipo) Order By 2,1"
+        << "Codigo,Descripcion"
+        << "7|Flete;5|Gastos administrativos;6|Gastos de cobranza;8|Instalación;10|Otros cobros;9|Reparación";
+    QTest::newRow("conceptos del recibo sin solicitud")
+        << "Select ConceptoID as Codigo, Descripcion From Concepto Where IsNull(Tipo)Order By 2,1"
+        << "Codigo,Descripcion"
+        << "7|Flete;5|Gastos administrativos;6|Gastos de cobranza;8|Instalación;10|Otros cobros;9|Reparación";
+    QTest::newRow("conceptos del recibo de una solicitud")
+        << "Select ConceptoID as Codigo, Descripcion From Concepto Order By 2,1"
+        << "Codigo,Descripcion"
+        << "3|Cuota mensual;1|Enganche;7|Flete;5|Gastos administrativos;6|Gastos de cobranza;8|Instalación;"
+           "4|Mora;10|Otros cobros;2|Primer pago;9|Reparación";
+}
+
+void TstTraductor::listasParaElegir() {
+    comprobarLectura();
+}
+
+// What each search opens with: the search views read by their column names.
+void TstTraductor::vistasDeBusqueda_data() {
+    columnasDeLectura();
+    QTest::newRow("clientes")
+        << "Select * From vwBuscaCliente"
+        << "hidID,shw680_str_Codigo,shw2200_str_Nombres,shw2200_str_Apellidos,shw1200_str_NIT"
+        << "1|M1|Ana|MUÑOZ|1234567-8;2|G7|Luis|García|Null;4|G3|José|Gómez|Null";
+    QTest::newRow("fiadores") << "Select * From vwBuscaFiador"
+                              << "hidID,shw2200_str_Nombres,shw2200_str_Apellidos,shw1600_str_Telefonos"
+                              << "1|Jorge|López|5555-1111;2|Marta|Ruiz|Null";
+    QTest::newRow("articulos")
+        << "Select * From vwBuscaArticulo"
+        << "hidID,shw3800_str_Descripcion_del_articulo,shw1200_str_Color,shw900_dbl_Costo,"
+           "shw1000_dbl_Existencia,shw1300_dbl_Precio_contado,shw1300_dbl_Precio_credito"
+        << "1|Refrigeradora|Blanco|2500|4|3000|3500;2|Estufa|Negro|1200.5|3|1500|1700;"
+           "3|Licuadora|Null|150|12|150|150";
+    QTest::newRow("solicitudes")
+        << "Select * from vwBuscaSolicitud"
+        << "hidID,shw1200_int_Solicitud,shw800_str_Estado,shw3000_str_Nombre_del_cliente,"
+           "shw1100_dat_Fecha,shw1200_dbl_Saldo"
+        << "1|101|Aprobada|Ana MUÑOZ|05/01/2026|6325;2|102|Pendiente|Luis "
+           "García|20/01/2026|200;3|103|Rechazada|Luis García|03/02/2026|0";
+    QTest::newRow("solicitudes desde el recibo") << "Select * From vwBuscaSolicitud"
+                                                 << "hidID,shw680_str_Codigo,shw1200_str_NIT,hidClienteID"
+                                                 << "1|M1|1234567-8|1;2|G7||2;3|G7||2";
+    QTest::newRow("solicitudes saldadas") << "Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo <= 0"
+                                          << "hidID,shw1200_int_Solicitud,Saldo"
+                                          << "3|103|0";
+    QTest::newRow("recibos")
+        << "Select * From vwBuscaRecibo"
+        << "hidID,shw1000_int_Recibo,shw1100_dat_Fecha,shw1100_int_Solicitud,shw680_str_Codigo,"
+           "shw3000_str_Nombre,shw1200_dbl_Total"
+        << "1|201|10/02/2026|101|M1|Ana MUÑOZ|515;2|202|01/03/2026|0|P2|Eva Pérez|425";
+    QTest::newRow("facturas")
+        << "Select * From vwBuscaFactura"
+        << "hidID,shw1000_int_Factura,shw1100_dat_Fecha,shw3000_str_Nombre,shw1200_str_NIT,"
+           "shw1200_dbl_Total"
+        << "1|301|15/02/2026|Pedro Sosa|C/F|1850";
+    QTest::newRow("notas de ingreso")
+        << "Select * From vwBuscaNotaIngreso"
+        << "hidID,shw1100_int_No_Factura,shw1100_dat_Fecha,shw3000_str_Proveedor,"
+           "shw1200_dbl_Total"
+        << "1|401|02/01/2026|Distribuidora Elektra|14000;2|402|20/01/2026|"
+           "Distribuidora Elektra|4802;3|403|05/02/2026|Muebles Ñandú|280";
+    QTest::newRow("notas de envio")
+        << "Select * From vwBuscaNotaEnvio"
+        << "hidID,shw1000_int_No_Envio,shw1100_dat_Fecha,shw1100_int_Solicitud,"
+           "shw1100_int_Factura,shw3000_str_Nombre_del_cliente,shw3000_str_Direccion"
+        << "1|501|20/02/2026|101|0|Ana MUÑOZ|5a calle 3-20 zona 1;2|502|02/03/2026|0|"
+           "301|Pedro Sosa|Mixco";
+    QTest::newRow("documentos") << "Select * From vwBuscaDocumento"
+                                << "hidID,shw1200_int_Documento,shw1100_dat_Fecha,shw3000_str_Proveedor,"
+                                   "shw1200_dbl_Valor"
+                                << "1|601|01/02/2026|Distribuidora Elektra|18801.5";
+    QTest::newRow("solicitudes con articulos pendientes")
+        << "Select * From vwSaldosArticulosXSolicitud Where shw1200_dbl_Saldo > 0"
+        << "hidID,shw1200_int_Solicitud,shw3000_str_Nombre_del_cliente,shw1200_dbl_Saldo"
+        << "1|101|Ana MUÑOZ|2";
+    QTest::newRow("facturas con articulos pendientes")
+        << "Select * From vwSaldosArticulosXFactura Where shw1200_dbl_Saldo > 0"
+        << "hidFacturaID,shw1200_int_Factura,shw3200_str_Nombre_del_cliente,shw1200_dbl_Saldo"
+        << "1|301|Pedro Sosa|1";
+    QTest::newRow("recibos con articulos pendientes")
+        << "Select * From vwSaldosArticulosXRecibo Where shw1200_dbl_Saldo > 0"
+        << "hidReciboID,shw1200_int_Recibo,shw3200_str_Nombre_del_cliente,shw1200_dbl_Saldo"
+        << "2|202|Eva Pérez|2";
+    QTest::newRow("notas por pagar del proveedor")
+        << "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+           "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+           "vwSaldosXNotaIngreso Where hidProveedorID = 1 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0 "
+        << "hidID,shw1200_int_No_Nota,shw1200_dat_Fecha,shw2500_str_Descripcion_general,shw1200_dbl_Saldo"
+        << "2|402|20/01/2026|Compra de estufas|0.50";
+    QTest::newRow("notas por pagar de otro proveedor")
+        << "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+           "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+           "vwSaldosXNotaIngreso Where hidProveedorID = 2 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0 "
+        << "hidID,shw1200_dbl_Saldo"
+        << "3|280.00";
+}
+
+void TstTraductor::vistasDeBusqueda() {
+    comprobarLectura();
+}
+
+// The conditions the search screen appends from its boxes: " Where " or " And " after the caller's
+// query, a text box as a contains match without regard to case or accents, a date box as #d/m/y#
+// (or the bare column when its date was not valid), any other box as "= number".
+void TstTraductor::filtrosDeLaBusqueda_data() {
+    columnasDeLectura();
+    QTest::newRow("texto en minusculas") << "Select * From vwBuscaCliente Where shw2200_str_Apellidos Like "
+                                            "'%muñoz%'"
+                                         << "hidID"
+                                         << "1";
+    QTest::newRow("dos cajas de texto")
+        << "Select * From vwBuscaCliente Where shw680_str_Codigo Like '%g%' And "
+           "shw2200_str_Nombres Like '%JOSÉ%'"
+        << "hidID"
+        << "4";
+    QTest::newRow("tras el Where de quien llama")
+        << "Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo <= 0 And shw3000_str_Nombre_del_cliente "
+           "Like '%garcía%'"
+        << "hidID"
+        << "3";
+    QTest::newRow("fecha dd/mm/aaaa") << "Select * From vwBuscaRecibo Where shw1100_dat_Fecha = #10/02/2026#"
+                                      << "hidID"
+                                      << "1";
+    QTest::newRow("fecha d/m/aaaa") << "Select * From vwBuscaRecibo Where shw1100_dat_Fecha = #1/3/2026#"
+                                    << "hidID"
+                                    << "2";
+    QTest::newRow("fecha de solicitud")
+        << "Select * From vwBuscaSolicitud Where shw1100_dat_Fecha = #5/1/2026#"
+        << "hidID"
+        << "1";
+    QTest::newRow("fecha invalida en la ultima caja") << "Select * From vwBuscaRecibo Where shw1100_dat_Fecha"
+                                                      << "hidID"
+                                                      << "1;2";
+    QTest::newRow("fecha invalida antes de otra caja")
+        << "Select * From vwBuscaRecibo Where shw1100_dat_Fecha And shw3000_str_Nombre Like '%eva%'"
+        << "hidID"
+        << "2";
+    QTest::newRow("numero entero") << "Select * From vwBuscaNotaIngreso Where shw1100_int_No_Factura = 402"
+                                   << "hidID"
+                                   << "2";
+    QTest::newRow("numero con decimales")
+        << "Select * From vwBuscaDocumento Where shw1200_dbl_Valor = 18801.5"
+        << "hidID"
+        << "1";
+    QTest::newRow("texto no numerico vale 0") << "Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo = 0"
+                                              << "hidID"
+                                              << "3";
+    QTest::newRow("texto y numero")
+        << "Select * From vwBuscaArticulo Where shw3800_str_Descripcion_del_articulo "
+           "Like '%REFRI%' And shw1000_dbl_Existencia = 4"
+        << "hidID"
+        << "1";
+    QTest::newRow("lista de pendientes")
+        << "Select * From vwSaldosArticulosXFactura Where shw1200_dbl_Saldo > 0 "
+           "And shw3200_str_Nombre_del_cliente Like '%sosa%'"
+        << "hidFacturaID"
+        << "1";
+    QTest::newRow("notas por pagar por descripcion")
+        << "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+           "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+           "vwSaldosXNotaIngreso Where hidProveedorID = 1 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0  "
+           "And shw2500_str_Descripcion_general Like '%ESTUFAS%'"
+        << "hidID"
+        << "2";
+    QTest::newRow("notas por pagar por fecha")
+        << "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+           "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+           "vwSaldosXNotaIngreso Where hidProveedorID = 1 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0  "
+           "And shw1200_dat_Fecha = #20/01/2026#"
+        << "hidID"
+        << "2";
+    QTest::newRow("notas por pagar por saldo")
+        << "Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, "
+           "Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From "
+           "vwSaldosXNotaIngreso Where hidProveedorID = 1 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0  "
+           "And shw1200_dbl_Saldo = 0.5"
+        << "hidID"
+        << "2";
+}
+
+void TstTraductor::filtrosDeLaBusqueda() {
+    QEXPECT_FAIL("notas por pagar por saldo",
+                 "the balance is a Format() text in the select list: a number compared with its alias in the "
+                 "Where finds no row",
+                 Abort);
+    comprobarLectura();
+}
+
+// The writes the screens send through Execute: the count of rows it reports, and the table as a
+// look straight at the file finds it afterwards.
+void TstTraductor::escrituras_data() {
+    QTest::addColumn<QString>("sentencia");
+    QTest::addColumn<int>("afectadas");
+    QTest::addColumn<QString>("comprobacion"); // SQLite's own SQL, read past the store
+    QTest::addColumn<QString>("resultado");
+
+    const QString clientes =
+        QStringLiteral("SELECT group_concat(ClienteID || ':' || Activo || ':' || ifnull(NIT, '-'), ' ') FROM "
+                       "(SELECT * FROM Cliente ORDER BY ClienteID)");
+    QTest::newRow("desactivar cliente") << "Update Cliente Set Activo = 0 Where ClienteID = 2" << 1
+                                        << clientes << "1:1:1234567-8 2:0:- 3:0:- 4:1:-";
+    QTest::newRow("NIT del cliente") << "Update Cliente Set NIT = 'C/F' Where ClienteID = 2" << 1 << clientes
+                                     << "1:1:1234567-8 2:1:C/F 3:0:- 4:1:-";
+    QTest::newRow("eliminar cliente")
+        << "Delete From Cliente Where ClienteID = 4" << 1 << clientes << "1:1:1234567-8 2:1:- 3:0:-";
+    QTest::newRow("desactivar fiador")
+        << "Update Fiador Set Activo = 0 Where FiadorID = 2" << 1
+        << "SELECT group_concat(FiadorID || ':' || Activo, ' ') FROM (SELECT * FROM Fiador ORDER BY FiadorID)"
+        << "1:1 2:0 3:0";
+    QTest::newRow("eliminar fiador")
+        << "Delete From Fiador Where FiadorID = 2" << 1
+        << "SELECT group_concat(FiadorID, ' ') FROM (SELECT * FROM Fiador ORDER BY "
+           "FiadorID)"
+        << "1 3";
+
+    const QString historial =
+        QStringLiteral("SELECT group_concat(ClienteID || '|' || Fecha || '|' || Descripcion || '|' || "
+                       "printf('%.2f', Valor) || '|' || ClasificacionID, ';') FROM (SELECT * FROM "
+                       "ClienteHistorial ORDER BY ClienteHistorialID)");
+    QTest::newRow("borrar historial") << "Delete From ClienteHistorial Where ClienteID = 1" << 2 << historial
+                                      << "2|2025-07-01|Referencia|0.00|2";
+    QTest::newRow("linea de historial")
+        << "Insert Into ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, ClasificacionID) VALUES "
+           "(2,'22/11/2026','Pago atrasado',75.50,4)"
+        << 1 << historial
+        << "1|2025-06-01|Pago puntual|0.00|1;1|2025-09-15|Atraso de "
+           "cuota|150.75|3;2|2025-07-01|Referencia|0.00|2;"
+           "2|2026-11-22|Pago atrasado|75.50|4";
+
+    QTest::newRow("mora acumulada") << "Update Solicitud Set Mora = Mora + 25.50 Where SolicitudID = 1" << 1
+                                    << "SELECT group_concat(SolicitudID || ':' || printf('%.2f', Mora), ' ') "
+                                       "FROM (SELECT * FROM Solicitud "
+                                       "ORDER BY SolicitudID)"
+                                    << "1:65.50 2:0.00 3:0.00";
+    QTest::newRow("factura impresa") << "Update Factura Set Estado = 1 Where FacturaID = 1" << 1
+                                     << "SELECT group_concat(FacturaID || ':' || Estado) FROM Factura"
+                                     << "1:1";
+
+    const QString lineasSolicitud = QStringLiteral(
+        "SELECT group_concat(SolicitudID || '|' || ArticuloID || '|' || Cantidad || '|' || printf('%.2f', "
+        "Precio), ';') FROM (SELECT * FROM SolicitudDetalle ORDER BY SolicitudDetalleID)");
+    QTest::newRow("vaciar lineas de la solicitud")
+        << "Delete * From SolicitudDetalle Where SolicitudID = 1" << 2 << lineasSolicitud << "2|3|1|200.00";
+    QTest::newRow("linea de solicitud")
+        << "Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, "
+           "Precio) VALUES (3,2,1,1700.00)"
+        << 1 << lineasSolicitud << "1|1|1|3500.00;1|2|2|3400.00;2|3|1|200.00;3|2|1|1700.00";
+    QTest::newRow("linea de solicitud leida de la base")
+        << "Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
+           "(3,1,2.00,7000.00)"
+        << 1 << lineasSolicitud << "1|1|1|3500.00;1|2|2|3400.00;2|3|1|200.00;3|1|2|7000.00";
+    QTest::newRow("linea de solicitud de centavos")
+        << "Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES (3,3,1,.50)" << 1
+        << lineasSolicitud << "1|1|1|3500.00;1|2|2|3400.00;2|3|1|200.00;3|3|1|0.50";
+    QTest::newRow("eliminar lineas de la solicitud") << "Delete From SolicitudDetalle Where SolicitudID = 2"
+                                                     << 1 << lineasSolicitud << "1|1|1|3500.00;1|2|2|3400.00";
+    QTest::newRow("eliminar solicitud")
+        << "Delete From Solicitud Where SolicitudID = 3" << 1
+        << "SELECT group_concat(SolicitudID, ' ') FROM (SELECT * FROM Solicitud ORDER BY SolicitudID)"
+        << "1 2";
+
+    const QString lineasRecibo = QStringLiteral(
+        "SELECT group_concat(ReciboID || '|' || ConceptoID || '|' || ArticuloID || '|' || Cantidad || '|' || "
+        "printf('%.2f', Valor), ';') FROM (SELECT * FROM ReciboDetalle ORDER BY ReciboDetalleID)");
+    QTest::newRow("vaciar lineas del recibo") << "Delete * From ReciboDetalle Where ReciboID = 1" << 2
+                                              << lineasRecibo << "2|0|3|2|200.00;2|7|0|1|25.00";
+    QTest::newRow("linea de concepto del recibo")
+        << "Insert Into ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
+           "(1,3,0,1,600.00)"
+        << 1 << lineasRecibo << "1|1|0|1|500.00;1|4|0|1|15.00;2|0|3|2|200.00;2|7|0|1|25.00;1|3|0|1|600.00";
+    QTest::newRow("linea de articulo del recibo")
+        << "Insert Into ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
+           "(2,0,1,1,3000.00)"
+        << 1 << lineasRecibo << "1|1|0|1|500.00;1|4|0|1|15.00;2|0|3|2|200.00;2|7|0|1|25.00;2|0|1|1|3000.00";
+
+    const QString lineasFactura = QStringLiteral(
+        "SELECT group_concat(FacturaID || '|' || ArticuloID || '|' || ConceptoID || '|' || Cantidad || '|' "
+        "|| "
+        "EsCredito || '|' || printf('%.2f', Precio), ';') FROM (SELECT * FROM FacturaDetalle ORDER BY "
+        "FacturaDetalleID)");
+    QTest::newRow("vaciar lineas de la factura")
+        << "Delete * From FacturaDetalle Where FacturaID = 1" << 2 << lineasFactura << "";
+    QTest::newRow("linea de articulo de la factura")
+        << "Insert Into FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES "
+           "(1,1,1,0,3000.00)"
+        << 1 << lineasFactura << "1|2|0|2|0|900.00;1|0|7|1|0|100.00;1|1|0|1|0|3000.00";
+    QTest::newRow("linea de la solicitud en la factura")
+        << "Insert Into FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES "
+           "(1,2,2,1,1700.00)"
+        << 1 << lineasFactura << "1|2|0|2|0|900.00;1|0|7|1|0|100.00;1|2|0|2|1|1700.00";
+    QTest::newRow("linea de concepto de la factura")
+        << "Insert Into FacturaDetalle (FacturaID, ConceptoID, Cantidad, EsCredito, Precio) VALUES "
+           "(1,8,1,0,75.00)"
+        << 1 << lineasFactura << "1|2|0|2|0|900.00;1|0|7|1|0|100.00;1|0|8|1|0|75.00";
+
+    const QString lineasIngreso =
+        QStringLiteral("SELECT group_concat(IngresoID || '|' || ArticuloID || '|' || Cantidad || '|' || "
+                       "printf('%.2f', Costo), "
+                       "';') FROM (SELECT * FROM NotaIngresoDetalle ORDER BY NotaIngresoDetalleID)");
+    QTest::newRow("vaciar lineas de la nota de ingreso")
+        << "Delete From NotaIngresoDetalle Where IngresoID = 1" << 2 << lineasIngreso
+        << "2|2|4|1200.50;3|3|2|140.00";
+    QTest::newRow("linea de nota de ingreso")
+        << "Insert Into NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, "
+           "Costo) VALUES (3,1,3,2450.75)"
+        << 1 << lineasIngreso
+        << "1|1|5|2500.00;1|3|10|150.00;2|2|4|1200.50;3|3|2|140.00;3|1|3|"
+           "2450.75";
+    QTest::newRow("eliminar lineas de la nota de ingreso")
+        << "Delete * From NotaIngresoDetalle Where IngresoID = 3" << 1 << lineasIngreso
+        << "1|1|5|2500.00;1|3|10|150.00;2|2|4|1200.50";
+    QTest::newRow("eliminar nota de ingreso")
+        << "Delete * From NotaIngreso Where IngresoID = 3" << 1
+        << "SELECT group_concat(IngresoID, ' ') FROM (SELECT * FROM NotaIngreso ORDER BY IngresoID)"
+        << "1 2";
+
+    const QString lineasEnvio = QStringLiteral(
+        "SELECT group_concat(NotaID || '|' || ArticuloID || '|' || Cantidad, ';') FROM (SELECT * "
+        "FROM NotaEnvioDetalle ORDER BY NotaEnvioDetalleID)");
+    QTest::newRow("vaciar lineas de la nota de envio")
+        << "Delete From NotaEnvioDetalle Where NotaID = 1" << 1 << lineasEnvio << "2|2|1";
+    QTest::newRow("linea de nota de envio")
+        << "Insert Into NotaEnvioDetalle (NotaID, ArticuloID, Cantidad) VALUES (1,2,2)" << 1 << lineasEnvio
+        << "1|1|1;2|2|1;1|2|2";
+
+    const QString lineasDocumento = QStringLiteral(
+        "SELECT group_concat(DocumentoID || '|' || IngresoID || '|' || printf('%.2f', Valor), ';') "
+        "FROM (SELECT * FROM DocumentoDetalle ORDER BY DocumentoDetalleID)");
+    QTest::newRow("vaciar lineas del documento")
+        << "Delete From DocumentoDetalle Where DocumentoID = 1" << 2 << lineasDocumento << "";
+    QTest::newRow("linea de documento")
+        << "Insert Into DocumentoDetalle (DocumentoID, IngresoID, Valor) VALUES (1,3,280.00)" << 1
+        << lineasDocumento << "1|1|14000.00;1|2|4801.50;1|3|280.00";
+    QTest::newRow("eliminar lineas del documento")
+        << "Delete * From DocumentoDetalle Where DocumentoID = 1" << 2 << lineasDocumento << "";
+    QTest::newRow("eliminar documento")
+        << "Delete * From Documento Where DocumentoID = 1" << 1 << "SELECT count(*) FROM Documento"
+        << "0";
+}
+
+void TstTraductor::escrituras() {
+    QFETCH(QString, sentencia);
+    QFETCH(int, afectadas);
+    QFETCH(QString, comprobacion);
+    QFETCH(QString, resultado);
+    TiendaConocida tienda;
+    try {
+        QCOMPARE(tienda.cn.Execute(sentencia), long(afectadas));
+    } catch (const Fallo& f) {
+        QFAIL(qPrintable(QStringLiteral("Fallo %1: %2").arg(f.numeroHex(), f.descripcion())));
+    }
+    QCOMPARE(tienda.base.valor(comprobacion), resultado);
 }
 
 QTEST_GUILESS_MAIN(TstTraductor)
