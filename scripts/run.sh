@@ -13,10 +13,12 @@ for arg in "$@"; do
     esac
 done
 
-scripts/build.sh
+# Only the program and the set-up tool: the tests and benchmarks are built by scripts/test.sh.
+scripts/build.sh cuentacorriente cuentacorriente-db
 
 db=build/tools/cuentacorriente-db/cuentacorriente-db
 if ! "$db" status >/dev/null 2>&1; then
+    echo "== Creando la base de datos de la tienda y registrando DSNBrenal ..."
     "$db" init "${demo[@]}"
 elif [ "${#demo[@]}" -gt 0 ]; then
     echo "DSNBrenal ya tiene su base de datos; los datos de ejemplo solo se cargan en una base nueva."
@@ -26,4 +28,5 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     echo "No hay pantalla (DISPLAY vacío); para abrirlo en una virtual: xvfb-run -a $app" >&2
     exit 1
 fi
+echo "== Iniciando $app"
 exec "$app"

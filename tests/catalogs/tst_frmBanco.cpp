@@ -24,6 +24,7 @@ private Q_SLOTS:
     void eliminarSinPreguntar();
     void tablaVaciaModificarYGuardarFalla();
     void bancoConRecibosNoSeElimina();
+    void guardarMientrasOtraPantallaTieneLaBase();
 
 private:
     frmBanco& pantalla();
@@ -183,6 +184,36 @@ void TstFrmBanco::bancoConRecibosNoSeElimina() {
     QCOMPARE(entorno_->fallos[0].numero(), store::FalloGeneral);
     QVERIFY(entorno_->fallos[0].descripcion().contains(QStringLiteral("No puede eliminarse el banco")));
     QCOMPARE(db("SELECT count(*) FROM Banco"), QStringLiteral("3"));
+}
+
+// Another screen's transaction has written (a receipt's mora) and holds the database: "Guardar" here
+// tells the clerk why it can't save yet instead of ending the program, the screen keeps what was
+// typed, and once that transaction ends the same "Guardar" saves.
+void TstFrmBanco::guardarMientrasOtraPantallaTieneLaBase() {
+    auto& p = pantalla();
+    auto& cn = Common::DE().CN;
+    cn.BeginTrans();
+    cn.Execute(QStringLiteral("Update Banco Set Direccion = 'Zona 10' Where Nombre = 'Bantrab'"));
+    pulsar("Agregar");
+    teclear(p.txtNombre, QStringLiteral("Banco G&T"));
+    QString mensaje;
+    entorno_->alMostrarModal([&](shell::Formulario& d) {
+        mensaje = d.findChild<QLabel*>(QStringLiteral("lblMensaje"))->text();
+        QTest::mouseClick(d.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
+    });
+    pulsar("Guardar");
+    QVERIFY2(mensaje.contains(QLatin1String("ocupada")), qPrintable(mensaje));
+    QCOMPARE(entorno_->titulosModales, QStringList{"Bancos del sistema"});
+    QVERIFY(entorno_->fallos.isEmpty());
+    QVERIFY(p.lblEstado->isVisible()); // still adding
+    QCOMPARE(p.txtNombre->text(), QStringLiteral("Banco G&T"));
+    QCOMPARE(db("SELECT count(*) FROM Banco"), QStringLiteral("3"));
+
+    cn.CommitTrans();
+    pulsar("Guardar");
+    QVERIFY(!p.lblEstado->isVisible());
+    QCOMPARE(db("SELECT count(*) FROM Banco WHERE Nombre = 'Banco G&T'"), QStringLiteral("1"));
+    QCOMPARE(db("SELECT Direccion FROM Banco WHERE Nombre = 'Bantrab'"), QStringLiteral("Zona 10"));
 }
 
 QTEST_MAIN(TstFrmBanco)
