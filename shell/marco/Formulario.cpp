@@ -67,11 +67,14 @@ void Formulario::traerAlFrente() {
 void Formulario::ShowModal() {
     cargar();
     if (isVisible() && !isModal()) {
-        Common::MostrarMensaje(windowTitle(),
-                               QStringLiteral("Esta pantalla ya está abierta con cambios sin guardar. "
-                                              "Termínelos (Guardar o Cancelar) y vuelva a intentarlo."),
-                               *this);
-        return;
+        if (tieneCambiosPendientes()) {
+            Common::MostrarMensaje(windowTitle(),
+                                   QStringLiteral("Esta pantalla ya está abierta con cambios sin guardar. "
+                                                  "Termínelos (Guardar o Cancelar) y vuelva a intentarlo."),
+                                   *this);
+            return;
+        }
+        hide(); // a window takes its modality only when it is shown
     }
     Common::MostrarModal(*this);
 }

@@ -31,6 +31,7 @@ public:
     void traerAlFrente();
     // Shows the screen modally. A screen standing open modelessly with changes pending (Common's
     // PantallaModal keeps only such a one) is not shown: the clerk is told to finish there first.
+    // One standing open with nothing pending becomes modal as it stands.
     void ShowModal();
     // Returns false when Form_QueryUnload cancelled it.
     bool Unload();

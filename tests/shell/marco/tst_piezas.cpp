@@ -151,6 +151,7 @@ private Q_SLOTS:
     void dialogoDeLineaAnulaParametros();
     void modalSobreUnaPantallaYaAbierta_data();
     void modalSobreUnaPantallaYaAbierta();
+    void modalSobreSiMismaSinNadaPendiente();
     void modalDeVerdadEspera();
 
 private:
@@ -320,6 +321,19 @@ void TstPiezas::modalSobreUnaPantallaYaAbierta_data() {
     QTest::addColumn<bool>("editando");
     QTest::newRow("abierta sin nada pendiente: se carga de nuevo, modal") << false;
     QTest::newRow("abierta con cambios: se avisa y no se pierde nada") << true;
+}
+
+// Shown modally as it stands, with nothing pending: it becomes modal, no message.
+void TstPiezas::modalSobreSiMismaSinNadaPendiente() {
+    auto& abierta = documento();
+    bool eraModal = false;
+    entorno_->alMostrarModal([&](Formulario& f) {
+        eraModal = f.isModal() && &f == &abierta;
+        f.Unload();
+    });
+    abierta.ShowModal();
+    QVERIFY(eraModal);
+    QCOMPARE(entorno_->modalesMostradas, QStringList{QStringLiteral("PantallaDocumento")});
 }
 
 // A screen another opens modally while the clerk has it open from the menu.
