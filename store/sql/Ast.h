@@ -10,6 +10,11 @@ namespace store::sql {
 
 struct Select;
 
+// The deepest nesting a statement may have: parentheses, operators chained one over another,
+// sub-queries and joins all count. The screens' statements stay within a dozen levels; the bound
+// keeps the parser, the writer and the tree's own destruction from running out of stack.
+inline constexpr int kProfundidadMaxima = 100;
+
 struct Expr {
     enum class Tipo {
         Numero,   // texto: the digits as written
@@ -38,6 +43,7 @@ struct Expr {
     bool negado = false;
     bool distinto = false; // Count(Distinct x)
     bool entreCorchetes = false;
+    int altura = 1; // levels of this expression, its sub-query's included
     std::vector<std::unique_ptr<Expr>> hijos;
     std::shared_ptr<Select> subconsulta;
 
@@ -67,6 +73,7 @@ struct Fuente {
     std::shared_ptr<Select> subconsulta;
     // A join: izquierda <union> derecha On condicion.
     Union clase = Union::Interna;
+    int altura = 1;
     std::unique_ptr<Fuente> izquierda;
     std::unique_ptr<Fuente> derecha;
     ExprPtr condicion;
@@ -79,6 +86,7 @@ struct Orden {
 
 struct Select {
     bool distinto = false;
+    int altura = 1;
     ExprPtr primeros; // Top n
     std::vector<ElementoSeleccion> elementos;
     std::vector<std::unique_ptr<Fuente>> desde; // joined by commas

@@ -6,8 +6,18 @@ namespace store::sql {
 namespace {
 
 [[noreturn]] void refusar(const QString& motivo, const QString& sentencia) {
-    throw Fallo(FalloSintaxis,
-                QStringLiteral("Error de sintaxis: %1 en la instrucción SQL: %2").arg(motivo, sentencia));
+    throw Fallo(FalloSintaxis, QStringLiteral("Error de sintaxis: %1 en la instrucción SQL: %2")
+                                   .arg(motivo, sentenciaParaMensaje(sentencia)));
+}
+
+// Tab, line feed and carriage return are blanks; every other control character is refused.
+bool esControl(QChar c) {
+    return c.category() == QChar::Other_Control && c != u'\t' && c != u'\n' && c != u'\r';
+}
+
+// Only ASCII digits make a number: the database would read any other digit as part of a name.
+bool esDigito(QChar c) {
+    return c >= u'0' && c <= u'9';
 }
 
 bool iniciaIdentificador(QChar c) {
@@ -23,6 +33,15 @@ public:
         : s_(s) {}
 
     std::vector<Token> leer() {
+        if (s_.size() > kLargoMaximoSentencia)
+            refusar(QStringLiteral("la instrucción excede los %1 caracteres").arg(kLargoMaximoSentencia), s_);
+        for (qsizetype i = 0; i < s_.size(); ++i) {
+            if (esControl(s_[i]))
+                refusar(QStringLiteral("carácter de control U+%1 en la posición %2")
+                            .arg(s_[i].unicode(), 4, 16, QLatin1Char('0'))
+                            .arg(i + 1),
+                        s_);
+        }
         std::vector<Token> tokens;
         while (true) {
             saltarBlancos();
@@ -59,7 +78,7 @@ private:
             return Token{TipoToken::Fecha, leerHasta(u'#', QStringLiteral("fecha")), inicio, false};
         if (c == u'[')
             return Token{TipoToken::Identificador, leerHasta(u']', QStringLiteral("nombre")), inicio, true};
-        if (c.isDigit() || (c == u'.' && i_ + 1 < s_.size() && s_[i_ + 1].isDigit()))
+        if (esDigito(c) || (c == u'.' && i_ + 1 < s_.size() && esDigito(s_[i_ + 1])))
             return Token{TipoToken::Numero, leerNumero(), inicio, false};
         if (iniciaIdentificador(c)) {
             while (i_ < s_.size() && continuaIdentificador(s_[i_]))
@@ -98,19 +117,19 @@ private:
 
     QString leerNumero() {
         const qsizetype inicio = i_;
-        while (i_ < s_.size() && s_[i_].isDigit())
+        while (i_ < s_.size() && esDigito(s_[i_]))
             ++i_;
         if (i_ < s_.size() && s_[i_] == u'.') {
             ++i_;
-            while (i_ < s_.size() && s_[i_].isDigit())
+            while (i_ < s_.size() && esDigito(s_[i_]))
                 ++i_;
         }
         if (i_ < s_.size() && (s_[i_] == u'e' || s_[i_] == u'E')) {
             qsizetype j = i_ + 1;
             if (j < s_.size() && (s_[j] == u'+' || s_[j] == u'-')) ++j;
-            if (j < s_.size() && s_[j].isDigit()) {
+            if (j < s_.size() && esDigito(s_[j])) {
                 i_ = j;
-                while (i_ < s_.size() && s_[i_].isDigit())
+                while (i_ < s_.size() && esDigito(s_[i_]))
                     ++i_;
             }
         }
@@ -142,6 +161,13 @@ private:
 
 std::vector<Token> tokenizar(const QString& sentencia) {
     return Lector(sentencia).leer();
+}
+
+QString sentenciaParaMensaje(const QString& sentencia) {
+    constexpr qsizetype kMostrados = 300;
+    if (sentencia.size() <= kMostrados) return sentencia;
+    return sentencia.left(kMostrados) +
+           QStringLiteral("... (%1 caracteres más)").arg(sentencia.size() - kMostrados);
 }
 
 } // namespace store::sql

@@ -33,9 +33,18 @@ struct Token {
     }
 };
 
+// The longest statement the translator reads. The screens compose a few hundred characters; the
+// bound keeps a box pasted full of text from costing the program its memory.
+inline constexpr qsizetype kLargoMaximoSentencia = 100000;
+
 // Splits one statement into tokens. Throws Fallo (FalloSintaxis) on an unterminated string, date or
-// bracket, on a character the dialect does not use, and on anything after a ';' other than blanks:
-// a second statement never reaches the database.
+// bracket, on a character the dialect does not use (a control character such as NUL included, even
+// inside a text: the database would read a different statement), on a statement longer than
+// kLargoMaximoSentencia, and on anything after a ';' other than blanks: a second statement never
+// reaches the database.
 std::vector<Token> tokenizar(const QString& sentencia);
+
+// The statement as a message quotes it: its beginning only, when it is long.
+QString sentenciaParaMensaje(const QString& sentencia);
 
 } // namespace store::sql

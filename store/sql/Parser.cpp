@@ -4,6 +4,7 @@
 #include "store/Fallo.h"
 #include "store/sql/Lexer.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace store::sql {
@@ -86,7 +87,58 @@ private:
                                   ? QStringLiteral("al final")
                                   : QStringLiteral("cerca de la posición %1").arg(actual().posicion + 1);
         throw Fallo(FalloSintaxis, QStringLiteral("Error de sintaxis (%1, %2) en la instrucción SQL: %3")
-                                       .arg(motivo, cerca, fuente_));
+                                       .arg(motivo, cerca, sentenciaParaMensaje(fuente_)));
+    }
+
+    // ---- nesting -------------------------------------------------------------------------------
+    // Each rule that may call itself again (through parentheses, Not, a sign, a sub-query or a
+    // parenthesized join) holds one level while it reads.
+    class Anidado {
+    public:
+        explicit Anidado(Analizador& a)
+            : a_(a) {
+            if (++a_.nivel_ > kProfundidadMaxima) a_.demasiadoProfunda();
+        }
+        ~Anidado() { --a_.nivel_; }
+        Anidado(const Anidado&) = delete;
+        Anidado& operator=(const Anidado&) = delete;
+
+    private:
+        Analizador& a_;
+    };
+
+    [[noreturn]] void demasiadoProfunda() const {
+        error(QStringLiteral("la instrucción anida más de %1 niveles").arg(kProfundidadMaxima));
+    }
+
+    // A node built over others is one level deeper than the deepest of them; operators chained
+    // without parentheses ("a + b + c ...") deepen the tree without any rule calling itself.
+    int medir(int altura) const {
+        if (altura > kProfundidadMaxima) demasiadoProfunda();
+        return altura;
+    }
+    static int alturaDe(const ExprPtr& e) { return e ? e->altura : 0; }
+
+    ExprPtr medido(ExprPtr e) const {
+        int mayor = e->subconsulta ? e->subconsulta->altura : 0;
+        for (const auto& h : e->hijos)
+            mayor = std::max(mayor, h->altura);
+        e->altura = medir(mayor + 1);
+        return e;
+    }
+
+    int alturaDe(const Select& s) const {
+        int mayor = alturaDe(s.donde);
+        mayor = std::max(mayor, alturaDe(s.teniendo));
+        for (const auto& e : s.elementos)
+            mayor = std::max(mayor, alturaDe(e.expr));
+        for (const auto& f : s.desde)
+            mayor = std::max(mayor, f->altura);
+        for (const auto& e : s.agrupar)
+            mayor = std::max(mayor, alturaDe(e));
+        for (const auto& o : s.ordenar)
+            mayor = std::max(mayor, alturaDe(o.expr));
+        return medir(mayor + 1);
     }
 
     QString nombre(const char* que) {
@@ -110,6 +162,7 @@ private:
 
     // ---- statements --------------------------------------------------------------------------
     std::shared_ptr<Select> select() {
+        const Anidado nivel(*this);
         auto s = std::make_shared<Select>();
         if (palabra("distinct"))
             s->distinto = true;
@@ -147,6 +200,7 @@ private:
                 s->ordenar.push_back(std::move(o));
             } while (simbolo(","));
         }
+        s->altura = alturaDe(*s);
         return s;
     }
 
@@ -188,17 +242,20 @@ private:
             u->derecha = fuenteSimple();
             esperarPalabra("on");
             u->condicion = expresion();
+            u->altura = medir(std::max({u->izquierda->altura, u->derecha->altura, u->condicion->altura}) + 1);
             izquierda = std::move(u);
         }
         return izquierda;
     }
 
     std::unique_ptr<Fuente> fuenteSimple() {
+        const Anidado nivel(*this);
         auto f = std::make_unique<Fuente>();
         if (simbolo("(")) {
             if (palabra("select")) {
                 f->tipo = Fuente::Tipo::Subconsulta;
                 f->subconsulta = select();
+                f->altura = medir(f->subconsulta->altura + 1);
                 esperarSimbolo(")");
                 f->alias = aliasOpcional();
                 return f;
@@ -285,10 +342,13 @@ private:
         auto e = Expr::crear(T::Binario, std::move(op));
         e->hijos.push_back(std::move(a));
         e->hijos.push_back(std::move(b));
-        return e;
+        return medido(std::move(e));
     }
 
-    ExprPtr expresion() { return disyuncion(); }
+    ExprPtr expresion() {
+        const Anidado nivel(*this);
+        return disyuncion();
+    }
 
     // One level of left-associative operators, each a symbol or a word; the operator keeps the
     // dialect's spelling ("+", "Mod", "And").
@@ -322,9 +382,10 @@ private:
 
     ExprPtr negacion() {
         if (palabra("not")) {
+            const Anidado nivel(*this);
             auto e = Expr::crear(T::Unario, QStringLiteral("Not"));
             e->hijos.push_back(negacion());
-            return e;
+            return medido(std::move(e));
         }
         return comparacion();
     }
@@ -372,7 +433,7 @@ private:
         auto e = Expr::crear(tipo);
         e->negado = negado;
         (e->hijos.push_back(std::forward<Hijos>(hijos)), ...);
-        return e;
+        return medido(std::move(e));
     }
 
     ExprPtr enLista(bool negado, ExprPtr valor) {
@@ -386,16 +447,20 @@ private:
             } while (simbolo(","));
         }
         esperarSimbolo(")");
-        return e;
+        return medido(std::move(e));
     }
 
     ExprPtr unario() {
         if (simbolo("-")) {
+            const Anidado nivel(*this);
             auto e = Expr::crear(T::Unario, QStringLiteral("-"));
             e->hijos.push_back(unario());
-            return e;
+            return medido(std::move(e));
         }
-        if (simbolo("+")) return unario();
+        if (simbolo("+")) {
+            const Anidado nivel(*this);
+            return unario();
+        }
         return potencia();
     }
 
@@ -414,7 +479,7 @@ private:
                     auto e = Expr::crear(T::Subconsulta);
                     e->subconsulta = select();
                     esperarSimbolo(")");
-                    return e;
+                    return medido(std::move(e));
                 }
                 ExprPtr e = expresion();
                 esperarSimbolo(")");
@@ -454,7 +519,7 @@ private:
             auto e = Expr::crear(T::Existe);
             e->subconsulta = select();
             esperarSimbolo(")");
-            return e;
+            return medido(std::move(e));
         }
         if (esPalabraReservada(actual()))
             error(QStringLiteral("palabra reservada '%1' fuera de lugar").arg(actual().texto));
@@ -484,12 +549,13 @@ private:
             } while (simbolo(","));
         }
         esperarSimbolo(")");
-        return e;
+        return medido(std::move(e));
     }
 
     const QString& fuente_;
     std::vector<Token> t_;
     size_t i_ = 0;
+    int nivel_ = 0;
 };
 
 } // namespace
