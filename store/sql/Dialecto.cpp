@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <functional>
 
 namespace store::sql {
 namespace {
@@ -18,6 +19,35 @@ using T = Expr::Tipo;
 bool esNombreSimple(const QString& n) {
     static const QRegularExpression simple(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
     return simple.match(n).hasMatch();
+}
+
+bool esAgregado(const QString& funcion) {
+    static const QStringList agregados = {QStringLiteral("sum"), QStringLiteral("max"), QStringLiteral("min"),
+                                          QStringLiteral("avg"), QStringLiteral("count")};
+    return agregados.contains(funcion, Qt::CaseInsensitive);
+}
+
+// A name, a literal or a constant: short, and the same wherever it is written.
+bool esHoja(const Expr& e) {
+    switch (e.tipo) {
+    case T::Numero:
+    case T::Texto:
+    case T::Fecha:
+    case T::Booleano:
+    case T::Nulo:
+    case T::Columna:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Whether the expression holds an aggregate of its own query (a sub-query is a query of its own).
+bool contieneAgregado(const Expr& e) {
+    if (e.tipo == T::Funcion && esAgregado(e.texto)) return true;
+    for (const auto& h : e.hijos)
+        if (contieneAgregado(*h)) return true;
+    return false;
 }
 
 // Writes one parsed statement in a dialect's SQL. Knows which table each alias names, so that a text
@@ -269,21 +299,63 @@ private:
     }
 
     // a & b & c: one concatenation of all the parts, each Null counting as empty text.
-    void partesConcatenacion(const Expr& e, std::vector<QString>& partes) {
+    void partesConcatenacion(const Expr& e, std::vector<const Expr*>& partes) {
         if (e.tipo == T::Binario && e.texto == u"&") {
             partesConcatenacion(*e.hijos[0], partes);
             partesConcatenacion(*e.hijos[1], partes);
         } else {
-            partes.push_back(expr(e));
+            partes.push_back(&e);
         }
+    }
+
+    // ---- arguments a dialect writes more than once --------------------------------------------
+    // A dialect's Format or & may write its argument several times (a test for Null, then the
+    // value). Written as it stands, each Format or & over another would double the statement. An
+    // argument that is more than a name or a constant is therefore written once, as a column of a
+    // sub-select, and the dialect writes that column's name: the translation grows with the
+    // statement, not with the power of its nesting.
+    using Plantilla = std::function<QString(const std::vector<QString>&)>;
+
+    QString ligados(const std::vector<const Expr*>& argumentos, const Plantilla& plantilla) {
+        std::vector<QString> valores;
+        QStringList columnas;
+        for (const Expr* a : argumentos) {
+            if (esHoja(*a)) {
+                valores.push_back(expr(*a));
+            } else if (contieneAgregado(*a)) {
+                valores.push_back(enSuLugar(*a));
+            } else {
+                const QString nombre = QStringLiteral("v%1").arg(columnas.size() + 1);
+                columnas << expr(*a) + QStringLiteral(" AS ") + nombre;
+                valores.push_back(nombre);
+            }
+        }
+        const QString r = plantilla(valores);
+        if (columnas.isEmpty()) return r;
+        return QStringLiteral("(SELECT %1 FROM (SELECT %2) AS ligados)")
+            .arg(r, columnas.join(QStringLiteral(", ")));
+    }
+
+    // An aggregate of the enclosing query cannot move into a sub-select, so an argument holding one
+    // is written in place, perhaps several times; one such argument inside another is refused.
+    QString enSuLugar(const Expr& a) {
+        if (repitiendoAgregado_)
+            noAdmitida(QStringLiteral("Format y & no admiten, sobre un agregado, otro Format u otro & que "
+                                      "también contenga un agregado."));
+        repitiendoAgregado_ = true;
+        struct Restaurar {
+            bool& b;
+            ~Restaurar() { b = false; }
+        } restaurar{repitiendoAgregado_};
+        return expr(a);
     }
 
     QString binario(const Expr& e) {
         const QString& op = e.texto;
         if (op == u"&") {
-            std::vector<QString> partes;
+            std::vector<const Expr*> partes;
             partesConcatenacion(e, partes);
-            return d_.concatenar(partes);
+            return ligados(partes, [&](const std::vector<QString>& v) { return d_.concatenar(v); });
         }
         const Expr& a = *e.hijos[0];
         const Expr& b = *e.hijos[1];
@@ -314,10 +386,7 @@ private:
 
     QString funcion(const Expr& f) {
         const QString n = f.texto.toLower();
-        static const QStringList agregados = {QStringLiteral("sum"), QStringLiteral("max"),
-                                              QStringLiteral("min"), QStringLiteral("avg"),
-                                              QStringLiteral("count")};
-        if (agregados.contains(n)) {
+        if (esAgregado(n)) {
             esperarArgumentos(f, 1, 1);
             return n.toUpper() + QLatin1Char('(') + (f.distinto ? QStringLiteral("DISTINCT ") : QString()) +
                    argumento(f, 0) + QLatin1Char(')');
@@ -339,7 +408,9 @@ private:
             esperarArgumentos(f, 2, 2);
             if (f.hijos[1]->tipo != T::Texto)
                 noAdmitida(QStringLiteral("El formato de Format debe ser un texto."));
-            return d_.formatear(argumento(f, 0), f.hijos[1]->texto);
+            const QString& patron = f.hijos[1]->texto;
+            return ligados({f.hijos[0].get()},
+                           [&](const std::vector<QString>& v) { return d_.formatear(v[0], patron); });
         }
         static const QHash<QString, QString> mismas = {{QStringLiteral("len"), QStringLiteral("LENGTH")},
                                                        {QStringLiteral("ucase"), QStringLiteral("UPPER")},
@@ -391,16 +462,23 @@ private:
     const Dialecto& d_;
     const Catalogo* catalogo_;
     std::vector<Ambito> ambitos_;
+    bool repitiendoAgregado_ = false;
 };
 
 } // namespace
 
 QString Dialecto::traducir(const Sentencia& sentencia, const Catalogo* catalogo) const {
-    return Escritor(*this, catalogo).sentencia(sentencia);
+    QString sql = Escritor(*this, catalogo).sentencia(sentencia);
+    if (sql.size() > kLargoMaximoTraduccion)
+        noAdmitida(QStringLiteral("La instrucción SQL es demasiado extensa para la base de datos (%1 "
+                                  "caracteres traducida; el máximo es %2).")
+                       .arg(sql.size())
+                       .arg(kLargoMaximoTraduccion));
+    return sql;
 }
 
 QString Dialecto::identificador(const QString& nombre, bool forzarComillas) const {
-    if (!forzarComillas && esNombreSimple(nombre)) return nombre;
+    if (!forzarComillas && esNombreSimple(nombre) && !esPalabraClave(nombre)) return nombre;
     QString n = nombre;
     n.replace(QLatin1Char('"'), QStringLiteral("\"\""));
     return QLatin1Char('"') + n + QLatin1Char('"');

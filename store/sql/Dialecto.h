@@ -11,6 +11,11 @@ class QSqlDatabase;
 
 namespace store::sql {
 
+// The longest translation the database is handed. What the writer adds around each construct is
+// bounded, so a statement the parser accepts translates to at most a fixed multiple of its length;
+// this is the same limit made certain.
+inline constexpr qsizetype kLargoMaximoTraduccion = 4'000'000;
+
 // What the translator may ask of the database's tables: the type of a column, so that a text such as
 // '22/11/2026' written into a date column is read day first, as the program means it.
 class Catalogo {
@@ -38,8 +43,9 @@ public:
     virtual bool cerrojoAlEscribir() const { return false; }
     virtual QString inicioEscritura() const { return {}; }
 
-    // A quoted identifier when the name needs it.
+    // A quoted identifier when the name needs it: not a plain name, or a word of the database's SQL.
     virtual QString identificador(const QString& nombre, bool forzarComillas = false) const;
+    virtual bool esPalabraClave(const QString& nombre) const = 0;
     // "columna <null-safe => ?": finds a row by a value that may be Null.
     virtual QString igualdadSegura(const QString& columnaCitada) const = 0;
     // The key the database gave to the row that this connection inserted last.

@@ -101,7 +101,34 @@ std::optional<QString> patronFecha(const QString& patron) {
     return r;
 }
 
+// SQLite's keywords: a name spelled like one is written quoted.
+const QStringList& palabrasClave() {
+    static const QStringList palabras =
+        QStringLiteral(
+            "ABORT ACTION ADD AFTER ALL ALTER ALWAYS ANALYZE AND AS ASC ATTACH AUTOINCREMENT BEFORE BEGIN "
+            "BETWEEN BY CASCADE CASE CAST CHECK COLLATE COLUMN COMMIT CONFLICT CONSTRAINT CREATE CROSS "
+            "CURRENT "
+            "CURRENT_DATE CURRENT_TIME CURRENT_TIMESTAMP DATABASE DEFAULT DEFERRABLE DEFERRED DELETE DESC "
+            "DETACH DISTINCT DO DROP EACH ELSE END ESCAPE EXCEPT EXCLUDE EXCLUSIVE EXISTS EXPLAIN FAIL "
+            "FILTER "
+            "FIRST FOLLOWING FOR FOREIGN FROM FULL GENERATED GLOB GROUP GROUPS HAVING IF IGNORE IMMEDIATE IN "
+            "INDEX INDEXED INITIALLY INNER INSERT INSTEAD INTERSECT INTO IS ISNULL JOIN KEY LAST LEFT LIKE "
+            "LIMIT MATCH MATERIALIZED NATURAL NO NOT NOTHING NOTNULL NULL NULLS OF OFFSET ON OR ORDER OTHERS "
+            "OUTER OVER PARTITION PLAN PRAGMA PRECEDING PRIMARY QUERY RAISE RANGE RECURSIVE REFERENCES "
+            "REGEXP "
+            "REINDEX RELEASE RENAME REPLACE RESTRICT RETURNING RIGHT ROLLBACK ROW ROWS SAVEPOINT SELECT SET "
+            "TABLE TEMP TEMPORARY THEN TIES TO TRANSACTION TRIGGER UNBOUNDED UNION UNIQUE UPDATE USING "
+            "VACUUM "
+            "VALUES VIEW VIRTUAL WHEN WHERE WINDOW WITH WITHOUT")
+            .split(QLatin1Char(' '));
+    return palabras;
+}
+
 } // namespace
+
+bool DialectoSQLite::esPalabraClave(const QString& nombre) const {
+    return palabrasClave().contains(nombre, Qt::CaseInsensitive);
+}
 
 QString DialectoSQLite::igualdadSegura(const QString& columnaCitada) const {
     return columnaCitada + QStringLiteral(" IS ?");
@@ -132,7 +159,7 @@ QString DialectoSQLite::formatear(const QString& valor, const QString& patron) c
     if (const auto p = leerPatronNumerico(patron))
         r = numeroConPatron(valor, *p);
     else if (const auto f = patronFecha(patron))
-        r = QStringLiteral("strftime('%1', %2)").arg(*f, valor);
+        r = QStringLiteral("strftime(%1, %2)").arg(literalTexto(*f), valor);
     else
         throw Fallo(FalloSintaxis,
                     QStringLiteral("Formato '%1' no admitido en una instrucción SQL.").arg(patron));

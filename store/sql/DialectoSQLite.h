@@ -14,6 +14,7 @@ public:
     bool cerrojoAlEscribir() const override { return true; }
     QString inicioEscritura() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
 
+    bool esPalabraClave(const QString& nombre) const override;
     QString igualdadSegura(const QString& columnaCitada) const override;
     QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const override;
 
