@@ -1,6 +1,8 @@
 // The translation of the system's dialect into SQLite's SQL, what the translator refuses, and what the
 // statements the screens compose give back from a real database.
 #include "BaseDePrueba.h"
+#include "EsquemaEnMemoria.h"
+#include "PropiedadDeTraduccion.h"
 #include "runtime/Conversion.h"
 #include "store/Conexion.h"
 #include "store/Fallo.h"
@@ -25,10 +27,27 @@ public:
     }
 };
 
+// Every translation these tests make passes the checks of a safe translation, and SQLite's own
+// parser reads it as one statement with nothing left over. One that does not comes back as the text
+// of its defect, which no expected result equals. Statements over the tables of the project's schema
+// must also compile there.
+QString comprobada(const QString& sentencia, const QString& traduccion, const Traductor& traductor,
+                   bool delEsquema) {
+    static const EsquemaEnMemoria esquema(BaseDePrueba::rutaEsquema());
+    if (const QString defecto = defectoDeTraduccion(sentencia, traduccion, traductor); !defecto.isEmpty())
+        return QStringLiteral("(defecto: %1)").arg(defecto);
+    const auto p = esquema.preparar(traduccion);
+    if (p.preparada && !p.resto.trimmed().isEmpty())
+        return QStringLiteral("(SQLite dejó sin leer: %1)").arg(p.resto);
+    if (delEsquema && !p.preparada) return QStringLiteral("(SQLite no la compila: %1)").arg(p.error);
+    return traduccion;
+}
+
 QString traducir(const QString& sentencia) {
     static const sql::DialectoSQLite sqlite;
     static const CatalogoFijo catalogo;
-    return sqlite.traducir(sql::analizar(sentencia), &catalogo);
+    const Traductor traductor = [](const QString& s) { return sqlite.traducir(sql::analizar(s), &catalogo); };
+    return comprobada(sentencia, traductor(sentencia), traductor, false);
 }
 
 } // namespace
@@ -54,6 +73,14 @@ private Q_SLOTS:
     void filtrosDeLaBusqueda();
     void escrituras_data();
     void escrituras();
+    void refusaLoQueNingunaPantallaEscribe_data();
+    void refusaLoQueNingunaPantallaEscribe();
+    void unLiteralNoMueveLasPiezas_data();
+    void unLiteralNoMueveLasPiezas();
+    void creceConLaInstruccion_data();
+    void creceConLaInstruccion();
+    void expresionesAnidadas_data();
+    void expresionesAnidadas();
 };
 
 void TstTraductor::traduce_data() {
@@ -70,13 +97,13 @@ void TstTraductor::traduce_data() {
                                       "Cliente WHERE (ClienteID = (-1))";
     QTest::newRow("concatenacion despues de la suma")
         << "Select A & B + C From T"
-        << "SELECT (IFNULL(CASE WHEN typeof(A) = 'real' THEN printf('%.15g', A) ELSE A END, '') || "
-           "IFNULL(CASE WHEN typeof((B + C)) = 'real' THEN printf('%.15g', (B + C)) ELSE (B + C) END, '')) "
-           "AS Expr1000 FROM T";
+        << "SELECT (SELECT (IFNULL(CASE WHEN typeof(A) = 'real' THEN printf('%.15g', A) ELSE A END, '') || "
+           "IFNULL(CASE WHEN typeof(v1) = 'real' THEN printf('%.15g', v1) ELSE v1 END, '')) FROM (SELECT "
+           "(B + C) AS v1) AS ligados) AS Expr1000 FROM T";
     QTest::newRow("resta antes de concatenar")
         << "Select 'Q.' & Total - Pagado From T"
-        << "SELECT ('Q.' || IFNULL(CASE WHEN typeof((Total - Pagado)) = 'real' THEN printf('%.15g', (Total - "
-           "Pagado)) ELSE (Total - Pagado) END, '')) AS Expr1000 FROM T";
+        << "SELECT (SELECT ('Q.' || IFNULL(CASE WHEN typeof(v1) = 'real' THEN printf('%.15g', v1) ELSE v1 "
+           "END, '')) FROM (SELECT (Total - Pagado) AS v1) AS ligados) AS Expr1000 FROM T";
     QTest::newRow("concatenacion sin blanco")
         << "Select a & ' '& b From T"
         << "SELECT (IFNULL(CASE WHEN typeof(a) = 'real' THEN printf('%.15g', a) ELSE a END, '') || ' ' || "
@@ -145,11 +172,9 @@ void TstTraductor::traduce_data() {
     // Format in a select list: halves away from zero, as the program formats.
     QTest::newRow("Format #0.00")
         << "Select Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From V"
-        << "SELECT (CASE WHEN (shw1200_dbl_Total - shw1200_dbl_Cancelado) IS NULL THEN NULL ELSE (CASE WHEN "
-           "printf('%.2f', (shw1200_dbl_Total - shw1200_dbl_Cancelado)) = '-' || printf('%.2f', 0) THEN "
-           "printf('%.2f', "
-           "0) ELSE printf('%.2f', (shw1200_dbl_Total - shw1200_dbl_Cancelado)) END) END) AS "
-           "shw1200_dbl_Saldo FROM V";
+        << "SELECT (SELECT (CASE WHEN v1 IS NULL THEN NULL ELSE (CASE WHEN printf('%.2f', v1) = '-' || "
+           "printf('%.2f', 0) THEN printf('%.2f', 0) ELSE printf('%.2f', v1) END) END) FROM (SELECT "
+           "(shw1200_dbl_Total - shw1200_dbl_Cancelado) AS v1) AS ligados) AS shw1200_dbl_Saldo FROM V";
     // The rest of the dialect.
     QTest::newRow("agregado con alias y Group By")
         << "Select Max(CodigoNumero) as Cuenta From Cliente Where CodigoLetra = 'G' Group By CodigoLetra"
@@ -303,6 +328,9 @@ struct TiendaConocida {
 // The named fields of every row, as "a|b" lines joined by ";"; a Null reads "Null". A statement
 // without Order By leaves the order to the database, so its lines are compared sorted.
 QString leer(Conexion& cn, const QString& sentencia, const QString& campos) try {
+    const Traductor traductor = [&](const QString& s) { return cn.traducir(s); };
+    const QString traduccion = cn.traducir(sentencia);
+    if (const QString c = comprobada(sentencia, traduccion, traductor, true); c != traduccion) return c;
     Recordset rs;
     rs.Open(sentencia, cn);
     const QStringList nombres = campos.split(QLatin1Char(','));
@@ -1005,11 +1033,207 @@ void TstTraductor::escrituras() {
     QFETCH(QString, resultado);
     TiendaConocida tienda;
     try {
+        const QString traduccion = tienda.cn.traducir(sentencia);
+        QCOMPARE(comprobada(
+                     sentencia, traduccion, [&](const QString& s) { return tienda.cn.traducir(s); }, true),
+                 traduccion);
         QCOMPARE(tienda.cn.Execute(sentencia), long(afectadas));
     } catch (const Fallo& f) {
         QFAIL(qPrintable(QStringLiteral("Fallo %1: %2").arg(f.numeroHex(), f.descripcion())));
     }
     QCOMPARE(tienda.base.valor(comprobacion), resultado);
+}
+
+// What a hostile clerk could type into a box that the screens splice into a statement, and what the
+// translator refuses before anything reaches the database: functions it does not list (SQLite's own
+// among them, at any depth), characters the database would read differently, and nesting or length
+// beyond anything a screen composes, which would otherwise exhaust the program's stack or memory.
+void TstTraductor::refusaLoQueNingunaPantallaEscribe_data() {
+    QTest::addColumn<QString>("sentencia");
+    QTest::addColumn<QString>("motivo"); // part of the message the clerk reads
+
+    const QString carga = QStringLiteral("load_extension('/tmp/x.so')");
+    QTest::newRow("load_extension") << "Select " + carga + " From Banco"
+                                    << "load_extension";
+    QTest::newRow("load_extension dentro de Format")
+        << "Select * From Banco Where Nombre Like '%' & Format(" + carga + ", '#0') & '%'"
+        << "load_extension";
+    QTest::newRow("load_extension en una subconsulta")
+        << "Select * From Banco Where BancoID In (Select BancoID From Banco Where Iif(" + carga +
+               ", 1, 0) = 1)"
+        << "load_extension";
+    QTest::newRow("load_extension como condicion de union")
+        << "Select * From Banco B Inner Join Proveedor P On Nz(" + carga + ", 1) = 1"
+        << "load_extension";
+    QTest::newRow("funcion propia de SQLite") << "Select sqlite_version() From Banco"
+                                              << "sqlite_version";
+    QTest::newRow("char arma comillas") << "Select * From Banco Where Nombre = char(39)"
+                                        << "char";
+    QTest::newRow("NUL dentro de un texto")
+        << QStringLiteral("Select * From Banco Where Nombre = 'a%1b'").arg(QChar(0)) << "U+0000";
+    QTest::newRow("caracter de control")
+        << QStringLiteral("Select * From Banco Where Nombre = 'a%1'").arg(QChar(0x1b)) << "U+001b";
+    QTest::newRow("digito que no es ASCII")
+        << QString::fromUtf8("Select \u0663 From Banco") << "carácter no válido";
+
+    const QString profundo = QStringLiteral("la instrucción anida más de 100 niveles");
+    const auto veces = [](const char* pieza, int n) { return QString::fromLatin1(pieza).repeated(n); };
+    QTest::newRow("5000 parentesis") << "Select * From Banco Where " + veces("(", 5000) + "1" +
+                                            veces(")", 5000)
+                                     << profundo;
+    QTest::newRow("6000 caracteres en una caja de numeros")
+        << "Select * From vwBuscaRecibo Where shw1000_int_Recibo = " + veces("(-", 3000) << profundo;
+    QTest::newRow("101 parentesis") << "Select " + veces("(", 101) + "1" + veces(")", 101) + " From Banco"
+                                    << profundo;
+    QTest::newRow("sumas encadenadas") << "Select 1" + veces(" + 1", 150) + " From Banco" << profundo;
+    QTest::newRow("And encadenados") << "Select * From Banco Where" + veces(" BancoID = 1 And", 150) +
+                                            " 1 = 1"
+                                     << profundo;
+    QTest::newRow("Not encadenados") << "Select * From Banco Where" + veces(" Not", 150) + " BancoID = 1"
+                                     << profundo;
+    QTest::newRow("signos encadenados") << "Select" + veces(" -", 150) + " 1 From Banco" << profundo;
+    QTest::newRow("subconsultas anidadas")
+        << "Select * From Banco Where BancoID In " +
+               veces("(Select BancoID From Banco Where BancoID In ", 60) + "(1)" + veces(")", 60)
+        << profundo;
+    QTest::newRow("uniones encadenadas")
+        << "Select * From Banco B0" + veces(" Inner Join Banco B On 1 = 1", 150) << profundo;
+    QTest::newRow("uniones entre parentesis")
+        << "Select * From " + veces("(", 150) + "Banco" + veces(")", 150) << profundo;
+    QTest::newRow("instruccion mas larga que el maximo")
+        << "Select * From Banco Where Nombre Like '%" + veces("x", 100000) + "%'"
+        << "la instrucción excede los 100000 caracteres";
+    QTest::newRow("Format de un agregado dentro de otro")
+        << "Select Format(Format(Sum(BancoID), '#0') & 'x', '#0') From Banco"
+        << "agregado";
+}
+
+void TstTraductor::refusaLoQueNingunaPantallaEscribe() {
+    QFETCH(QString, sentencia);
+    QFETCH(QString, motivo);
+    try {
+        const QString r = traducir(sentencia);
+        QFAIL(qPrintable(QStringLiteral("was translated to: ") + r.left(300)));
+    } catch (const Fallo& f) {
+        QCOMPARE(f.numero(), FalloSintaxis);
+        QVERIFY2(f.descripcion().contains(motivo), qPrintable(f.descripcion().left(500)));
+        // The message quotes the statement, but never more of it than a message box can show.
+        QVERIFY2(f.descripcion().size() < 1000, qPrintable(QString::number(f.descripcion().size())));
+    }
+}
+
+// Statements a clerk can compose by typing quotes, comment marks and names into the boxes: each one
+// translates, and its translation keeps the pieces the parser saw (the check every translation in
+// these tests passes); here it is also compared with what it must hold.
+void TstTraductor::unLiteralNoMueveLasPiezas_data() {
+    QTest::addColumn<QString>("dialecto");
+    QTest::addColumn<QString>("contiene");
+
+    // A date pattern's quote once closed the pattern's literal, and "/*" hid the rest of the
+    // statement up to a later text, whose end then ran as SQLite's own SQL.
+    QTest::newRow("comilla y comentario en un patron de fecha")
+        << "Select * From vwBuscaArticulo Where shw3800_str_Descripcion_del_articulo Like '%x%' Or "
+           "Format(shw1200_str_Color, '''/*') = '*/ Union Select ClienteID, Nombres, NIT, Limite, 0, 0, 0 "
+           "From Cliente --' Or 'a' Like '%'"
+        << "strftime('''/*', shw1200_str_Color)";
+    QTest::newRow("patron de fecha con comilla") << "Select Format(Fecha, 'dd''mm') From Solicitud"
+                                                 << "strftime('%d''%m', Fecha)";
+    QTest::newRow("comentario de linea en un texto") << "Select * From Banco Where Nombre = '-- x'"
+                                                     << "(Nombre = '-- x')";
+    QTest::newRow("punto y coma en un texto") << "Select * From Banco Where Nombre = 'a; Drop Table Banco'"
+                                              << "'a; Drop Table Banco'";
+    QTest::newRow("marcas de Qt en un texto") << "Select * From Banco Where Nombre = '%1' Or Direccion = '%2'"
+                                              << "((Nombre = '%1') OR (Direccion = '%2'))";
+    QTest::newRow("comilla en un Like") << "Select * From Banco Where Nombre Like '%O''Brien%'"
+                                        << "LIKE '%O''Brien%'";
+    QTest::newRow("comillas dobles en un nombre") << "Select [a\"b] From Banco"
+                                                  << "SELECT \"a\"\"b\" FROM";
+    QTest::newRow("alias que es palabra de SQLite") << "Select Nombre As [limit] From Banco"
+                                                    << "AS \"limit\"";
+    QTest::newRow("columna que es palabra de SQLite") << "Select Offset From T"
+                                                      << "SELECT \"Offset\" FROM";
+    QTest::newRow("alias entre comillas") << "Select Nombre As 'a b''c' From Banco"
+                                          << "AS \"a b'c\"";
+    QTest::newRow("blancos que no son ASCII en un texto")
+        << QString::fromUtf8("Select * From Banco Where Nombre = 'a\u00a0\u2028b'")
+        << QString::fromUtf8("'a\u00a0\u2028b'");
+}
+
+void TstTraductor::unLiteralNoMueveLasPiezas() {
+    QFETCH(QString, dialecto);
+    QFETCH(QString, contiene);
+    const QString r = traducir(dialecto);
+    QVERIFY2(r.contains(contiene), qPrintable(r));
+}
+
+// Format and & write their argument more than once; nested, the translation once doubled at each
+// level (seven Formats in 141 characters took 14 s and 3.6 GB). It grows with the statement now.
+void TstTraductor::creceConLaInstruccion_data() {
+    QTest::addColumn<QString>("dialecto");
+
+    QString format = QStringLiteral("Limite");
+    for (int i = 0; i < 12; ++i)
+        format = QStringLiteral("Format(%1, '#,##0.00')").arg(format);
+    QTest::newRow("12 Format anidados") << "Select " + format + " From Cliente";
+    QString union_ = QStringLiteral("Nombres");
+    for (int i = 0; i < 30; ++i)
+        union_ = QStringLiteral("(%1 & ' ' & Apellidos) & NIT").arg(union_);
+    QTest::newRow("30 & anidados") << "Select " + union_ + " From Cliente";
+    QString mezcla = QStringLiteral("Limite");
+    for (int i = 0; i < 15; ++i)
+        mezcla = QStringLiteral("Format(%1 & '1', '#.00') & Format(Limite + %2, '0')").arg(mezcla).arg(i);
+    QTest::newRow("Format y & alternados") << "Select " + mezcla + " From Cliente";
+    QString agregado = QStringLiteral("Sum(Limite)");
+    for (int i = 0; i < 3; ++i)
+        agregado = QStringLiteral("(%1 + Count(*))").arg(agregado);
+    QTest::newRow("Format de un agregado") << "Select Format(" + agregado + ", '#,##0.00') From Cliente";
+}
+
+void TstTraductor::creceConLaInstruccion() {
+    QFETCH(QString, dialecto);
+    QString r;
+    try {
+        r = traducir(dialecto);
+    } catch (const Fallo& f) {
+        QFAIL(qPrintable(f.descripcion().left(500)));
+    }
+    QVERIFY2(!r.startsWith(QLatin1Char('(')), qPrintable(r.left(500)));
+    QVERIFY2(r.size() <= largoMaximoDeTraduccion(dialecto), qPrintable(QString::number(r.size())));
+}
+
+// What the shapes that write an argument once compute, on the database: the same as before.
+void TstTraductor::expresionesAnidadas_data() {
+    columnasDeLectura();
+    QTest::newRow("Format de una operacion")
+        << "Select Format(Limite * 2, '#,##0.00') As L From Cliente Where ClienteID = 1"
+        << "L"
+        << "10,000.00";
+    QTest::newRow("Format dentro de &")
+        << "Select Nombres & ' (' & Format(Limite / 3, '#0.00') & ')' As N From Cliente Where ClienteID = 1"
+        << "N"
+        << "Ana (1666.67)";
+    QTest::newRow("Format de un Format")
+        << "Select Format(Format(Limite / 3, '#0.0') & '5', '#,##0.00') As F From Cliente Where ClienteID = 1"
+        << "F"
+        << "1,666.75";
+    QTest::newRow("Null dentro de &") << "Select (Nombres & NIT) & '|' As N From Cliente Where ClienteID = 2"
+                                      << "N"
+                                      << "Luis|";
+    QTest::newRow("Format de un agregado") << "Select Format(Sum(Limite) / 3, '#,##0.00') As T From Cliente"
+                                           << "T"
+                                           << "1,666.67";
+    QTest::newRow("agregado dentro de &") << "Select Count(*) & ' clientes' As C From Cliente"
+                                          << "C"
+                                          << "4 clientes";
+    QTest::newRow("Format en Where y Order By")
+        << "Select ClienteID From Cliente Where Format(Limite + 1, '#0') = '5001' Or ClienteID > 2 "
+           "Order By Format(ClienteID * 5, '#0') Desc"
+        << "ClienteID"
+        << "1;4;3";
+}
+
+void TstTraductor::expresionesAnidadas() {
+    comprobarLectura();
 }
 
 QTEST_GUILESS_MAIN(TstTraductor)

@@ -1,5 +1,7 @@
 #include "BaseDePrueba.h"
 
+#include "EsquemaDelProyecto.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
@@ -44,13 +46,8 @@ QString plantillaConEsquema() {
     static QTemporaryDir dir;
     static const QString archivo = [] {
         const QString plantilla = dir.filePath(QStringLiteral("plantilla.db"));
-        QString script = QStringLiteral("PRAGMA journal_mode = WAL;");
-        const QDir carpeta(BaseDePrueba::rutaEsquema());
-        for (const QString& nombre : carpeta.entryList({QStringLiteral("*.sql")}, QDir::Files, QDir::Name)) {
-            QFile f(carpeta.filePath(nombre));
-            if (!f.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(f.fileName()));
-            script += QString::fromUtf8(f.readAll());
-        }
+        const QString script =
+            QStringLiteral("PRAGMA journal_mode = WAL;") + scriptDelEsquema(BaseDePrueba::rutaEsquema());
         if (const QString error = ejecutarEn(plantilla, script); !error.isEmpty())
             qFatal("schema: %s", qPrintable(error));
         return plantilla;
