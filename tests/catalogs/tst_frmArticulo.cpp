@@ -29,6 +29,8 @@ private Q_SLOTS:
     void validarVenta();
     void validarVentaDeArticuloDesconocido();
     void enterNoMarcaCasillasNiOpciones();
+    void busquedaConTextoHostil_data();
+    void busquedaConTextoHostil();
 
 private:
     frmArticulo& pantalla();
@@ -256,6 +258,64 @@ void TstFrmArticulo::enterNoMarcaCasillasNiOpciones() {
     QVERIFY(QApplication::focusWidget() != valor);
     pulsar("Guardar");
     QCOMPARE(base_->valor("SELECT Activo FROM Articulo WHERE ArticuloID = 1"), QStringLiteral("1"));
+}
+
+// What a clerk types into the search's description box goes into the statement between quotes, so a
+// quote typed there ends the text and the rest is read as the statement's own. The translator keeps
+// every piece where the parser saw it: a payload that once listed the clients in the article grid
+// now lists only articles, and one nested past what any screen writes stops at the fatal path with
+// the translator's message instead of ending the program with a segmentation fault.
+void TstFrmArticulo::busquedaConTextoHostil_data() {
+    QTest::addColumn<QString>("tecleado");
+    QTest::addColumn<int>("filas");      // rows the grid shows, when the statement runs
+    QTest::addColumn<QString>("motivo"); // part of the failure's text, when it is refused
+
+    QTest::newRow("comentario abierto por un patron de fecha")
+        << "x%' Or Format(shw1200_str_Color, '''/*') = '*/ ) END) ) ) ) UNION SELECT ClienteID, Nombres, "
+           "Apellidos, NIT, Limite, 0, 0, 0, 0, 0, 0, 0, 0, 0 FROM Cliente --' Or 'a' Like '"
+        << 3 << "";
+    QTest::newRow("3000 parentesis") << "x%' Or " + QStringLiteral("(").repeated(3000) + "1 = 1" +
+                                            QStringLiteral(")").repeated(3000) + " Or 'a' Like '"
+                                     << 0 << "anida más de 100 niveles";
+    QTest::newRow("load_extension") << "x%' Or load_extension('/tmp/x.so') Or 'a' Like '" << 0
+                                    << "load_extension";
+}
+
+void TstFrmArticulo::busquedaConTextoHostil() {
+    QFETCH(QString, tecleado);
+    QFETCH(int, filas);
+    QFETCH(QString, motivo);
+    base_->sqlite(
+        "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, NIT, Limite, CodigoLetra, CodigoNumero) "
+        "VALUES (7, 'Ana', 'MUÑOZ', '1234567-8', 5000, 'M', 1)");
+    if (!motivo.isEmpty()) entorno_->esperaFallos();
+    QStringList celdas;
+    int mostradas = -1;
+    entorno_->alMostrarModal([&](shell::Formulario& busca) {
+        auto* filtro = busca.findChild<QLineEdit*>(QStringLiteral("txtField(1)"));
+        filtro->setText(tecleado.left(tecleado.size() - 1));
+        teclear(filtro, tecleado.right(1)); // the last key as the clerk presses it
+        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
+        const QAbstractItemModel* modelo = busca.findChild<QTableView*>(QStringLiteral("dg"))->model();
+        mostradas = modelo->rowCount();
+        for (int f = 0; f < modelo->rowCount(); ++f)
+            for (int c = 0; c < modelo->columnCount(); ++c)
+                celdas << modelo->index(f, c).data().toString();
+        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
+    });
+    pantalla();
+    pulsar("Buscar");
+    if (motivo.isEmpty()) {
+        QVERIFY(entorno_->fallos.isEmpty());
+        QCOMPARE(mostradas, filas);
+        QVERIFY2(!celdas.contains(QStringLiteral("Ana")) && !celdas.contains(QStringLiteral("1234567-8")),
+                 qPrintable(celdas.join(u'|')));
+    } else {
+        QCOMPARE(entorno_->fallos.size(), 1);
+        QCOMPARE(entorno_->fallos[0].numero(), store::FalloSintaxis);
+        QVERIFY2(entorno_->fallos[0].descripcion().contains(motivo),
+                 qPrintable(entorno_->fallos[0].descripcion()));
+    }
 }
 
 QTEST_MAIN(TstFrmArticulo)
