@@ -1,0 +1,1 @@
+Delete * From Documento Where DocumentoID =

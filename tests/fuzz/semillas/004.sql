@@ -1,0 +1,1 @@
+Delete * From FacturaDetalle Where FacturaID =

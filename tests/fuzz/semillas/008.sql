@@ -1,0 +1,1 @@
+Delete * From NotaIngreso Where IngresoID = 3

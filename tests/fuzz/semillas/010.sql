@@ -1,0 +1,1 @@
+Delete * From NotaIngresoDetalle Where IngresoID = 3

@@ -1,0 +1,1 @@
+Delete * From ReciboDetalle Where ReciboID =

@@ -1,0 +1,1 @@
+Delete * From SolicitudDetalle Where SolicitudID = 1

@@ -1,0 +1,1 @@
+Delete From Cliente Where ClienteID =

@@ -1,0 +1,1 @@
+Delete From ClienteHistorial Where ClienteID = 1

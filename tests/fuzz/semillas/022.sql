@@ -1,0 +1,1 @@
+Delete From Fiador Where FiadorID = 2

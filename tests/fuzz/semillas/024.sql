@@ -1,0 +1,1 @@
+Delete From NotaEnvioDetalle Where NotaID = 1

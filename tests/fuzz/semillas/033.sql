@@ -1,0 +1,1 @@
+Insert Into ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, ClasificacionID) VALUES (2,'22/11/2026','Pago atrasado',75.50,4)

@@ -1,0 +1,1 @@
+Insert Into ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, ClasificacionID) VALUES (3,'05/01/2026','Pago puntual',0,1)

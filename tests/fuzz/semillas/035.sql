@@ -1,0 +1,1 @@
+Insert Into ClienteHistorial (Descripcion) VALUES ('05/01/2026')

@@ -1,0 +1,1 @@
+Insert Into DocumentoDetalle (DocumentoID, IngresoID, Valor) VALUES (

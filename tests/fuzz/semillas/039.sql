@@ -1,0 +1,1 @@
+Insert Into FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES (1,1,1,0,3000.00)

@@ -1,0 +1,1 @@
+Insert Into FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES (1,2,2,1,1700.00)

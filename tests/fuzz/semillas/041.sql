@@ -1,0 +1,1 @@
+Insert Into FacturaDetalle (FacturaID, ConceptoID, Cantidad, EsCredito, Precio) VALUES (1,8,1,0,75.00)

@@ -1,0 +1,1 @@
+Insert Into NotaEnvioDetalle (NotaID, ArticuloID, Cantidad) VALUES (

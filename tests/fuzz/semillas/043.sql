@@ -1,0 +1,1 @@
+Insert Into NotaEnvioDetalle (NotaID, ArticuloID, Cantidad) VALUES (1,2,2)

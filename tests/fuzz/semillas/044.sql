@@ -1,0 +1,1 @@
+Insert Into NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES (

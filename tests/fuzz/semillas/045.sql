@@ -1,0 +1,1 @@
+Insert Into NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES (3,1,3,2450.75)

@@ -1,0 +1,1 @@
+Insert Into ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES (1,3,0,1,600.00)

@@ -1,0 +1,1 @@
+Insert Into ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES (2,0,1,1,3000.00)

@@ -1,0 +1,1 @@
+Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES (3,1,2.00,7000.00)

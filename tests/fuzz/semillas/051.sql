@@ -1,0 +1,1 @@
+Insert Into SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES (3,2,1,1700.00)

@@ -1,0 +1,1 @@
+Select 'Q.' & Total - Pagado From T

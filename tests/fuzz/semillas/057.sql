@@ -1,0 +1,1 @@
+Select (Nombres & NIT) & '|' As N From Cliente Where ClienteID = 2

@@ -1,0 +1,1 @@
+Select * From (A INNER JOIN B ON A.x = B.x) LEFT JOIN C ON B.y = C.y

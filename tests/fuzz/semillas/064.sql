@@ -1,0 +1,1 @@
+Select * From Articulo Where ArticuloID = 2

@@ -1,0 +1,1 @@
+Select * From Banco B Inner Join Proveedor P On Nz(

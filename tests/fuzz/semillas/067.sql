@@ -1,0 +1,1 @@
+Select * From Banco B0

@@ -1,0 +1,1 @@
+Select * From Banco Where BancoID = 1; Delete From Banco

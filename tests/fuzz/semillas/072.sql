@@ -1,0 +1,1 @@
+Select * From Banco Where BancoID In (Select BancoID From Banco Where Iif(

@@ -1,0 +1,1 @@
+Select * From Banco Where Nombre = char(39)

@@ -1,0 +1,1 @@
+Select * From Cliente Where ClienteID = 1

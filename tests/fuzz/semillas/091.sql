@@ -1,0 +1,1 @@
+Select * From Fiador Where FiadorID =

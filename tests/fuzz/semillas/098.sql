@@ -1,0 +1,1 @@
+Select * From Proveedor Where ProveedorID = 2

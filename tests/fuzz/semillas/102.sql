@@ -1,0 +1,1 @@
+Select * From Solicitud Where FechaAprobacion >= '1/2/2026'

@@ -1,0 +1,1 @@
+Select * From Solicitud Where SolicitudID < 0

@@ -1,0 +1,1 @@
+Select * From T Where F = #22/11/2026

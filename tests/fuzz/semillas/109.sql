@@ -1,0 +1,1 @@
+Select * From T Where F = #31/02/2026#

@@ -1,0 +1,1 @@
+Select * From T Where Not a = 1 Or b = 2 And c = 3

@@ -1,0 +1,1 @@
+Select * From T Where a Between 1 And 3 And b In (1, 2) Or c Not In (Select d From U)

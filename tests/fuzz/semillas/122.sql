@@ -1,0 +1,1 @@
+Select * From V Where hidProveedorID = 2 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0 

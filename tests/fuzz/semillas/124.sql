@@ -1,0 +1,1 @@
+Select * From vwBuscaArticulo Where shw3800_str_Descripcion_del_articulo Like '%REFRI%' And shw1000_dbl_Existencia = 4

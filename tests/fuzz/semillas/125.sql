@@ -1,0 +1,1 @@
+Select * From vwBuscaArticulo Where shw3800_str_Descripcion_del_articulo Like '%x%' Or Format(shw1200_str_Color, '''/*') = '*/ Union Select ClienteID, Nombres, NIT, Limite, 0, 0, 0 From Cliente --' Or 'a' Like '%'

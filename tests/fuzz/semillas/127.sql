@@ -1,0 +1,1 @@
+Select * From vwBuscaCliente Where shw2200_str_Apellidos Like '%muñoz%'

@@ -1,0 +1,1 @@
+Select * From vwBuscaCliente Where shw3000_str_Nombre Like '%muñoz%'

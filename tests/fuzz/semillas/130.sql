@@ -1,0 +1,1 @@
+Select * From vwBuscaCliente Where shw680_str_Codigo Like '%g%' And shw2200_str_Nombres Like '%JOSÉ%'

@@ -1,0 +1,1 @@
+Select * From vwBuscaDocumento Where shw1200_dbl_Valor = 18801.5

@@ -1,0 +1,1 @@
+Select * From vwBuscaNotaIngreso Where shw1100_int_No_Factura = 402

@@ -1,0 +1,1 @@
+Select * From vwBuscaRecibo Where shw1000_int_Recibo = 

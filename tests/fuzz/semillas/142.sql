@@ -1,0 +1,1 @@
+Select * From vwBuscaRecibo Where shw1100_dat_Fecha = #10/02/2026#

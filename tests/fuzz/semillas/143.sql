@@ -1,0 +1,1 @@
+Select * From vwBuscaRecibo Where shw1100_dat_Fecha And shw3000_str_Nombre Like '%eva%'

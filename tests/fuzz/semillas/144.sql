@@ -1,0 +1,1 @@
+Select * From vwBuscaRecibo Where shw1200_dat_Fecha

@@ -1,0 +1,1 @@
+Select * From vwBuscaSolicitud Where shw1100_dat_Fecha = #5/1/2026#

@@ -1,0 +1,1 @@
+Select * From vwBuscaSolicitud Where shw1200_dbl_Saldo <= 0 And shw3000_str_Nombre_del_cliente Like '%garcía%'

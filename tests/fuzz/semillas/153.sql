@@ -1,0 +1,1 @@
+Select * From vwFacturaDetalle Where FacturaID =

@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXFactura Where shw1200_dbl_Saldo > 0

@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXFactura Where shw1200_dbl_Saldo > 0 And shw3200_str_Nombre_del_cliente Like '%sosa%'

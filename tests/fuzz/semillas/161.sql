@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXFactura Where shw1200_int_Factura =

@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXRecibo Where shw1200_int_Recibo = 201

@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXSolicitud Where shw1200_dbl_Saldo > 0

@@ -1,0 +1,1 @@
+Select * From vwSaldosArticulosXSolicitud Where shw1200_int_Solicitud = 101

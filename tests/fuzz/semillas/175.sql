@@ -1,0 +1,1 @@
+Select A & B + C From T

@@ -1,0 +1,1 @@
+Select ArticuloID, Nombre & ' ' & Modelo & ' ' & Color as Descripcion, Cantidad, Precio, Total From vwSolicitudDetalle Where SolicitudID =

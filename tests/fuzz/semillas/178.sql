@@ -1,0 +1,1 @@
+Select BancoID as Codigo, Nombre as Descripcion From Banco Order By Nombre

@@ -1,0 +1,1 @@
+Select ClienteID From Cliente Where Format(Limite + 1, '#0') = '5001' Or ClienteID > 2 Order By Format(ClienteID * 5, '#0') Desc

@@ -1,0 +1,1 @@
+Select ClienteID as Codigo, Nombres & ' ' & Apellidos as Descripcion From Cliente Where ClienteID=-1

@@ -1,0 +1,1 @@
+Select ConceptoID as Codigo, Descripcion From Concepto Order By 2,1

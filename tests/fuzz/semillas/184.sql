@@ -1,0 +1,1 @@
+Select ConceptoID as Codigo, Descripcion From Concepto Where IsNull(Tipo)Order By 2,1

@@ -1,0 +1,1 @@
+Select ConceptoID, ArticuloID, Cantidad, Descripcion, Valor, Total From vwReciboDetalle RD Where ReciboID =

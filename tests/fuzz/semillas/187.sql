@@ -1,0 +1,1 @@
+Select Count(*) & ' clientes' As C From Cliente

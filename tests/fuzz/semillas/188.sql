@@ -1,0 +1,1 @@
+Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, D.Fecha, D.Descripcion From Documento D Where D.DocumentoID < 0

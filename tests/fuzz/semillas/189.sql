@@ -1,0 +1,1 @@
+Select D.DocumentoID, D.NumeroDocumento, D.ProveedorID, P.Nombre, D.Fecha, D.Descripcion From Documento D INNER JOIN Proveedor P ON D.ProveedorID = P.ProveedorID Where D.DocumentoID < 0

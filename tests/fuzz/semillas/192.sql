@@ -1,0 +1,1 @@
+Select EstadoCivilID From EstadoCivil Where EstadoCivilID<0

@@ -1,0 +1,1 @@
+Select F.*, E.Descripcion From Fiador F, EstadoCivil E Where F.EstadoCivilID = E.EstadoCivilID And FiadorID = 1

@@ -1,0 +1,1 @@
+Select Format(Fecha, 'dd''mm') From Solicitud

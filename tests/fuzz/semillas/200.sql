@@ -1,0 +1,1 @@
+Select Format(Format(Limite / 3, '#0.0') & '5', '#,##0.00') As F From Cliente Where ClienteID = 1

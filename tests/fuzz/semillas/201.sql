@@ -1,0 +1,1 @@
+Select Format(Format(Sum(BancoID), '#0') & 'x', '#0') From Banco

@@ -1,0 +1,1 @@
+Select Format(Limite * 2, '#,##0.00') As L From Cliente Where ClienteID = 1

@@ -1,0 +1,1 @@
+Select Format(Sum(Limite) / 3, '#,##0.00') As T From Cliente

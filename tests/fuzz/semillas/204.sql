@@ -1,0 +1,1 @@
+Select Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From V

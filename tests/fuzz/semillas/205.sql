@@ -1,0 +1,1 @@
+Select Format(x, 'Currency') From T

@@ -1,0 +1,1 @@
+Select H.Fecha, H.Descripcion, H.Valor, C.ClasificacionID, C.Descripcion as Clasificacion From ClienteHistorial H, Clasificacion C Where H.ClasificacionID = C.ClasificacionID And H.ClienteID = 1

@@ -1,0 +1,1 @@
+Select Max(CodigoNumero) as Cuenta From Cliente Where CodigoLetra = 'G' Group By CodigoLetra

@@ -1,0 +1,1 @@
+Select Max(NumeroDocumento) as Maximo From Documento Where DocumentoID>0

@@ -1,0 +1,1 @@
+Select Max(NumeroFactura) as Maximo From Factura Where FacturaID>0

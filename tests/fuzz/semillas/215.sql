@@ -1,0 +1,1 @@
+Select Max(NumeroIngreso) as Maximo From NotaIngreso Where IngresoID>0

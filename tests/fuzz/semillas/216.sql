@@ -1,0 +1,1 @@
+Select Max(NumeroNota) as Maximo From NotaEnvio Where NotaID>0

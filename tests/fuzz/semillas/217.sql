@@ -1,0 +1,1 @@
+Select Max(NumeroRecibo) as Maximo From Recibo Where ReciboID>0

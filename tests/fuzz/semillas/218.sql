@@ -1,0 +1,1 @@
+Select Max(NumeroSolicitud) as Maximo From Solicitud Where SolicitudID>0

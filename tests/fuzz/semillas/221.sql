@@ -1,0 +1,1 @@
+Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, N.Fecha, N.Descripcion From NotaIngreso N Where N.IngresoID = 3

@@ -1,0 +1,1 @@
+Select N.IngresoID, N.NumeroIngreso, N.ProveedorID, P.Nombre, N.Fecha, N.Descripcion From NotaIngreso N INNER JOIN Proveedor P ON N.ProveedorID = P.ProveedorID Where N.IngresoID = 1

@@ -1,0 +1,1 @@
+Select Nombre As 'a b''c' From Banco

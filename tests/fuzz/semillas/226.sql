@@ -1,0 +1,1 @@
+Select Nombre As [limit] From Banco

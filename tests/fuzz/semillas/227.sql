@@ -1,0 +1,1 @@
+Select Nombres & ' (' & Format(Limite / 3, '#0.00') & ')' As N From Cliente Where ClienteID = 1

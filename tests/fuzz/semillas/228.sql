@@ -1,0 +1,1 @@
+Select NumeroRecibo From Recibo Where NumeroRecibo =

@@ -1,0 +1,1 @@
+Select NumeroSolicitud From Solicitud Where NumeroSolicitud =

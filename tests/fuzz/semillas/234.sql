@@ -1,0 +1,1 @@
+Select Offset From T

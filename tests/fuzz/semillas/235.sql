@@ -1,0 +1,1 @@
+Select ProveedorID as Codigo, Nombre as Descripcion From Proveedor Order By Nombre

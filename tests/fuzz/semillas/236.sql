@@ -1,0 +1,1 @@
+Select SD.ArticuloID, A.Nombre From SolicitudDetalle SD INNER JOIN Articulo A ON SD.ArticuloID = A.ArticuloID Where SD.SolicitudID = 2

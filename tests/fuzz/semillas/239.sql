@@ -1,0 +1,1 @@
+Select SD.SolicitudID, SD.ArticuloID, SD.Cantidad, A.Nombre & ' ' & A.Modelo & ' ' & A.Color as NombreArticulo, SD.Precio From SolicitudDetalle SD INNER JOIN Articulo A ON SD.ArticuloID = A.ArticuloID Where SD.SolicitudID = 2

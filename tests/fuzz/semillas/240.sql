@@ -1,0 +1,1 @@
+Select Shell('rm') From T

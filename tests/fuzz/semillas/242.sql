@@ -1,0 +1,1 @@
+Select Tipo From Concepto Where ConceptoID = 3

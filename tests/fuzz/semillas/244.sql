@@ -1,0 +1,1 @@
+Select Top 1 * From Banco Order By Nombre Desc

@@ -1,0 +1,1 @@
+Select [Nombre del banco] From [Banco]

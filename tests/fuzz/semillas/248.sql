@@ -1,0 +1,1 @@
+Select a + b * c Mod 2 - d \ 2 From T

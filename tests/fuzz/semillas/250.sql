@@ -1,0 +1,1 @@
+Select hidArticuloID, shw3000_str_Descripcion, shw1200_int_Saldo From vwSaldoXArticuloXFactura Where hidFacturaID = 1 And shw1200_int_Saldo > 0

@@ -1,0 +1,1 @@
+Select hidArticuloID, shw3000_str_Descripcion, shw1200_int_Saldo From vwSaldoXArticuloXRecibo Where hidReciboID =

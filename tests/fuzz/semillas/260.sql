@@ -1,0 +1,1 @@
+Select hidID, shw1200_int_No_Nota, shw1200_dat_Fecha, shw2500_str_Descripcion_general, Format(shw1200_dbl_Total - shw1200_dbl_Cancelado,'#0.00') as shw1200_dbl_Saldo From vwSaldosXNotaIngreso Where hidProveedorID = 2 And shw1200_dbl_Total - shw1200_dbl_Cancelado > 0 

@@ -1,0 +1,1 @@
+Select hidID, shw800_str_Estado, shw3000_str_Nombre_del_cliente, shw680_str_Codigo From vwBuscaSolicitud Where shw1200_int_Solicitud = 102

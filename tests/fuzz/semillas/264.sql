@@ -1,0 +1,1 @@
+Select shw3800_str_Descripcion_del_articulo & ' ' & shw1200_str_Modelo & ' '& shw1200_str_Color as Descripcion, shw900_dbl_Costo as Costo, shw1000_dbl_Existencia as Existencia From vwBuscaArticulo Where hidID = 2

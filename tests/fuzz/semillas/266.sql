@@ -1,0 +1,1 @@
+Select sqlite_version() From Banco

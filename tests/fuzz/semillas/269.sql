@@ -1,0 +1,1 @@
+Select vwBS.*, S.Descuento From vwBuscaSolicitud vwBS, Solicitud S Where vwBS.hidID = S.SolicitudID And vwBS.shw1200_int_Solicitud = 103

@@ -1,0 +1,1 @@
+Update Cliente Set Activo = 0 Where ClienteID = 2

@@ -1,0 +1,1 @@
+Update Factura Set Estado = 1 Where FacturaID = 1

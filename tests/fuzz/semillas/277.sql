@@ -1,0 +1,1 @@
+Update Fiador Set Activo = 0 Where FiadorID = 2

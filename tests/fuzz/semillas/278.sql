@@ -1,0 +1,1 @@
+Update Solicitud Set FechaAprobacion = '22/11/2026' Where SolicitudID = 1

@@ -1,0 +1,1 @@
+Update Solicitud Set Mora = Mora +

@@ -1,0 +1,1 @@
+Update Solicitud Set Mora = Mora + 25.50 Where SolicitudID = 3

@@ -1,0 +1,1 @@
+select * from Concepto where not isnull(tipo)
