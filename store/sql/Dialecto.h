@@ -40,7 +40,8 @@ public:
 
     // A quoted identifier when the name needs it.
     virtual QString identificador(const QString& nombre, bool forzarComillas = false) const;
-    // "columna <null-safe => ?": finds a row by a value that may be Null.
+    // "columna <null-safe => ?": finds a row by a value that may be Null, compared as stored (a text
+    // byte for byte, whatever the column's collation).
     virtual QString igualdadSegura(const QString& columnaCitada) const = 0;
     // The key the database gave to the row that this connection inserted last.
     virtual QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const = 0;

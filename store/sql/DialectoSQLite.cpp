@@ -103,8 +103,10 @@ std::optional<QString> patronFecha(const QString& patron) {
 
 } // namespace
 
+// Binary, whatever the column's collation: under NOCASE "Banrural" would still find a row another user
+// changed to "BANRURAL", and the update would overwrite that change.
 QString DialectoSQLite::igualdadSegura(const QString& columnaCitada) const {
-    return columnaCitada + QStringLiteral(" IS ?");
+    return columnaCitada + QStringLiteral(" IS ? COLLATE BINARY");
 }
 
 QVariant DialectoSQLite::claveGenerada(QSqlDatabase& bd, const QString&, const QString&) const {
