@@ -109,6 +109,14 @@ QString DialectoSQLite::igualdadSegura(const QString& columnaCitada) const {
     return columnaCitada + QStringLiteral(" IS ? COLLATE BINARY");
 }
 
+// The driver reads a REAL as SQLite's text of it, 15 significant digits: 100/3 comes back as
+// 33.3333333333333. quote() writes 15 digits when they read back as the same value, else 21; where the
+// 15 do (most amounts), Null is cheaper to read.
+QString DialectoSQLite::valorExacto(const QString& columnaCitada) const {
+    return QStringLiteral("(CASE WHEN typeof(%1) = 'real' THEN NULLIF(quote(%1), CAST(%1 AS TEXT)) END)")
+        .arg(columnaCitada);
+}
+
 QVariant DialectoSQLite::claveGenerada(QSqlDatabase& bd, const QString&, const QString&) const {
     QSqlQuery q(bd);
     if (!q.exec(QStringLiteral("SELECT last_insert_rowid()")) || !q.next())

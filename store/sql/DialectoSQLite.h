@@ -15,6 +15,7 @@ public:
     QString inicioEscritura() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
 
     QString igualdadSegura(const QString& columnaCitada) const override;
+    QString valorExacto(const QString& columnaCitada) const override;
     QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const override;
 
     QString concatenar(const std::vector<QString>& partes) const override;

@@ -23,6 +23,7 @@ public:
         if (t == u"clientehistorial" && c == u"descripcion") return QMetaType::QString;
         return std::nullopt;
     }
+    QStringList columnas(const QString&) const override { return {}; }
 };
 
 QString traducir(const QString& sentencia) {
