@@ -50,16 +50,29 @@ public:
         : conexion_(conexion) {}
 
     std::optional<QMetaType::Type> tipoColumna(const QString& tabla, const QString& columna) const override {
+        const QSqlRecord& r = registro(tabla);
+        const int i = r.indexOf(columna);
+        if (i < 0) return std::nullopt;
+        return static_cast<QMetaType::Type>(r.field(i).metaType().id());
+    }
+
+    QStringList columnas(const QString& tabla) const override {
+        const QSqlRecord& r = registro(tabla);
+        QStringList nombres;
+        for (int i = 0; i < r.count(); ++i)
+            nombres << r.fieldName(i);
+        return nombres;
+    }
+
+private:
+    const QSqlRecord& registro(const QString& tabla) const {
         const QString clave = tabla.toLower();
         auto it = tablas_.find(clave);
         if (it == tablas_.end())
             it = tablas_.insert(clave, QSqlDatabase::database(conexion_, false).record(tabla));
-        const int i = it->indexOf(columna);
-        if (i < 0) return std::nullopt;
-        return static_cast<QMetaType::Type>(it->field(i).metaType().id());
+        return *it;
     }
 
-private:
     QString conexion_;
     mutable QHash<QString, QSqlRecord> tablas_;
 };

@@ -5,6 +5,7 @@
 #include "store/Fallo.h"
 #include "store/FuenteEditable.h"
 #include "store/LectorOdbc.h"
+#include "store/ValoresExactos.h"
 #include "store/sql/Parser.h"
 
 #include <QSqlField>
@@ -58,7 +59,16 @@ void Recordset::Requery() {
 }
 
 void Recordset::leer(const QString& fuente) {
-    const sql::Sentencia sentencia = sql::analizar(fuente);
+    sql::Sentencia sentencia = sql::analizar(fuente);
+    const auto editable = bloqueo_ != adLockReadOnly ? fuenteEditable(sentencia) : std::nullopt;
+    QString clave;
+    QStringList reales; // read exactly, as an update will look for its row by them
+    if (editable) {
+        const QSqlIndex primaria = conexion_.baseDatos().primaryIndex(editable->tabla);
+        clave = primaria.count() == 1 ? primaria.fieldName(0) : editable->tabla + QStringLiteral("ID");
+        reales = columnasReales(*editable, clave, conexion_.catalogo());
+        if (!reales.isEmpty()) pedirValoresExactos(*sentencia.consulta, reales);
+    }
     const QString traducida = conexion_.dialecto().traducir(sentencia, &conexion_.catalogo());
 
     QSqlQuery q(conexion_.baseDatos());
@@ -66,26 +76,30 @@ void Recordset::leer(const QString& fuente) {
     if (!q.exec(traducida)) throw falloDeBase(q.lastError());
 
     ResultadoLeido leido = leerResultado(q);
+    const QVector<QVector<QVariant>> exactos = separarValoresExactos(leido, reales.size());
 
     fuente_ = fuente;
     nombres_ = std::move(leido.nombres);
     tipos_ = std::move(leido.tipos);
     filas_ = std::move(leido.filas);
     tabla_.reset();
-    if (bloqueo_ != adLockReadOnly) {
-        if (const auto editable = fuenteEditable(sentencia)) {
-            TablaBase t;
-            t.tabla = editable->tabla;
-            for (const QString& n : nombres_) {
-                const QString columna = editable->columnaPorCampo.value(n.toLower());
-                t.columnas << (!columna.isEmpty() ? columna : editable->todas ? n : QString());
-            }
-            const QSqlIndex primaria = conexion_.baseDatos().primaryIndex(t.tabla);
-            t.clave = primaria.count() == 1 ? primaria.fieldName(0) : t.tabla + QStringLiteral("ID");
-            for (int i = 0; i < t.columnas.size(); ++i)
-                if (t.columnas[i].compare(t.clave, Qt::CaseInsensitive) == 0) t.indiceClave = i;
-            if (t.indiceClave >= 0) tabla_ = t;
+    if (editable) {
+        TablaBase t;
+        t.tabla = editable->tabla;
+        t.reales = reales;
+        for (const QString& n : nombres_) {
+            const QString columna = editable->columnaPorCampo.value(n.toLower());
+            t.columnas << (!columna.isEmpty() ? columna : editable->todas ? n : QString());
         }
+        if (!reales.isEmpty()) {
+            const QVector<int> exactoDeCampo = exactoDeCadaCampo(t.columnas, reales);
+            for (qsizetype i = 0; i < filas_.size(); ++i)
+                ponerValoresExactos(filas_[i], exactoDeCampo, exactos[i]);
+        }
+        t.clave = clave;
+        for (int i = 0; i < t.columnas.size(); ++i)
+            if (t.columnas[i].compare(t.clave, Qt::CaseInsensitive) == 0) t.indiceClave = i;
+        if (t.indiceClave >= 0) tabla_ = t;
     }
     abierto_ = true;
     modo_ = adEditNone;

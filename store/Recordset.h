@@ -113,6 +113,7 @@ private:
         QString clave;             // key column
         int indiceClave = -1;      // the key's field
         QVector<QString> columnas; // base column of each field; empty for a computed one
+        QStringList reales;        // the REAL columns among them, read exactly
     };
 
     void exigirAbierto() const;

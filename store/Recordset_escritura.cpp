@@ -4,6 +4,7 @@
 #include "store/ErrorBase.h"
 #include "store/Fallo.h"
 #include "store/Recordset.h"
+#include "store/ValoresExactos.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -175,15 +176,25 @@ void Recordset::Resync() {
     exigirActualizable("Resync");
     exigirFilaActual();
     const sql::Dialecto& d = conexion_.dialecto();
-    const QString sentencia = QStringLiteral("SELECT * FROM %1 WHERE %2 = ?")
-                                  .arg(d.identificador(tabla_->tabla), d.identificador(tabla_->clave));
+    // The row's columns, then the exact value of each REAL column, as the first read had them.
+    QString exactas;
+    for (const QString& columna : tabla_->reales)
+        exactas += QStringLiteral(", ") + d.valorExacto(d.identificador(columna));
+    const QString sentencia =
+        QStringLiteral("SELECT *%1 FROM %2 WHERE %3 = ?")
+            .arg(exactas, d.identificador(tabla_->tabla), d.identificador(tabla_->clave));
     QSqlQuery q = ejecutar(conexion_.baseDatos(), sentencia, {filas_[pos_][tabla_->indiceClave]});
     if (!q.next()) rechazarFilaCambiada();
     const QSqlRecord registro = q.record();
+    const int primeraExacta = registro.count() - static_cast<int>(tabla_->reales.size());
+    QVector<QVariant> exactos;
+    for (int j = primeraExacta; j < registro.count(); ++j)
+        exactos << q.value(j);
     for (int i = 0; i < nombres_.size(); ++i) {
         const int j = tabla_->columnas[i].isEmpty() ? -1 : registro.indexOf(tabla_->columnas[i]);
-        if (j >= 0) filas_[pos_][i] = q.isNull(j) ? QVariant() : q.value(j);
+        if (j >= 0 && j < primeraExacta) filas_[pos_][i] = q.isNull(j) ? QVariant() : q.value(j);
     }
+    ponerValoresExactos(filas_[pos_], exactoDeCadaCampo(tabla_->columnas, tabla_->reales), exactos);
     modo_ = adEditNone;
     Q_EMIT valoresCambiados();
 }

@@ -33,6 +33,9 @@ struct Expr {
         En,          // hijos[0] In (hijos[1..]) or In (subconsulta); negado
         Existe,      // Exists (subconsulta)
         Subconsulta, // (subconsulta) as a value
+        // hijos[0], a column: the value it stores, exactly. Only the store asks for it; no statement's
+        // text can.
+        ValorExacto,
     };
 
     Tipo tipo = Tipo::Nulo;

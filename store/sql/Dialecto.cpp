@@ -277,6 +277,8 @@ private:
             return QStringLiteral("EXISTS (") + select(*e.subconsulta) + QLatin1Char(')');
         case T::Subconsulta:
             return entreParentesis(select(*e.subconsulta));
+        case T::ValorExacto:
+            return d_.valorExacto(expr(*e.hijos[0]));
         }
         return {};
     }

@@ -4,6 +4,7 @@
 
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <optional>
 
@@ -17,12 +18,15 @@ namespace store::sql {
 inline constexpr qsizetype kLargoMaximoTraduccion = 4'000'000;
 
 // What the translator may ask of the database's tables: the type of a column, so that a text such as
-// '22/11/2026' written into a date column is read day first, as the program means it.
+// '22/11/2026' written into a date column is read day first, as the program means it. A recordset asks
+// it too, for the columns whose values it reads exactly.
 class Catalogo {
 public:
     virtual ~Catalogo() = default;
     virtual std::optional<QMetaType::Type> tipoColumna(const QString& tabla,
                                                        const QString& columna) const = 0;
+    // Every column of a table, in its order; none for a table it does not know.
+    virtual QStringList columnas(const QString& tabla) const = 0;
 };
 
 // The database behind the data source. The program writes every statement in one dialect; a Dialecto
@@ -46,8 +50,12 @@ public:
     // A quoted identifier when the name needs it: not a plain name, or a word of the database's SQL.
     virtual QString identificador(const QString& nombre, bool forzarComillas = false) const;
     virtual bool esPalabraClave(const QString& nombre) const = 0;
-    // "columna <null-safe => ?": finds a row by a value that may be Null.
+    // "columna <null-safe => ?": finds a row by a value that may be Null, compared as stored (a text
+    // byte for byte, whatever the column's collation).
     virtual QString igualdadSegura(const QString& columnaCitada) const = 0;
+    // The value a REAL column stores, as a text that reads back as exactly that value, where the
+    // driver's own reading of the column would round it; Null where that reading is already exact.
+    virtual QString valorExacto(const QString& columnaCitada) const = 0;
     // The key the database gave to the row that this connection inserted last.
     virtual QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const = 0;
 

@@ -104,22 +104,25 @@ std::optional<QString> patronFecha(const QString& patron) {
 // SQLite's keywords: a name spelled like one is written quoted.
 const QStringList& palabrasClave() {
     static const QStringList palabras =
-        QStringLiteral(
-            "ABORT ACTION ADD AFTER ALL ALTER ALWAYS ANALYZE AND AS ASC ATTACH AUTOINCREMENT BEFORE BEGIN "
-            "BETWEEN BY CASCADE CASE CAST CHECK COLLATE COLUMN COMMIT CONFLICT CONSTRAINT CREATE CROSS "
-            "CURRENT "
-            "CURRENT_DATE CURRENT_TIME CURRENT_TIMESTAMP DATABASE DEFAULT DEFERRABLE DEFERRED DELETE DESC "
-            "DETACH DISTINCT DO DROP EACH ELSE END ESCAPE EXCEPT EXCLUDE EXCLUSIVE EXISTS EXPLAIN FAIL "
-            "FILTER "
-            "FIRST FOLLOWING FOR FOREIGN FROM FULL GENERATED GLOB GROUP GROUPS HAVING IF IGNORE IMMEDIATE IN "
-            "INDEX INDEXED INITIALLY INNER INSERT INSTEAD INTERSECT INTO IS ISNULL JOIN KEY LAST LEFT LIKE "
-            "LIMIT MATCH MATERIALIZED NATURAL NO NOT NOTHING NOTNULL NULL NULLS OF OFFSET ON OR ORDER OTHERS "
-            "OUTER OVER PARTITION PLAN PRAGMA PRECEDING PRIMARY QUERY RAISE RANGE RECURSIVE REFERENCES "
-            "REGEXP "
-            "REINDEX RELEASE RENAME REPLACE RESTRICT RETURNING RIGHT ROLLBACK ROW ROWS SAVEPOINT SELECT SET "
-            "TABLE TEMP TEMPORARY THEN TIES TO TRANSACTION TRIGGER UNBOUNDED UNION UNIQUE UPDATE USING "
-            "VACUUM "
-            "VALUES VIEW VIRTUAL WHEN WHERE WINDOW WITH WITHOUT")
+        QStringLiteral("ABORT ACTION ADD AFTER ALL ALTER ALWAYS ANALYZE AND AS ASC ATTACH AUTOINCREMENT "
+                       "BEFORE BEGIN BETWEEN BY "
+                       "CASCADE CASE CAST CHECK COLLATE COLUMN COMMIT CONFLICT CONSTRAINT CREATE CROSS "
+                       "CURRENT CURRENT_DATE "
+                       "CURRENT_TIME CURRENT_TIMESTAMP DATABASE DEFAULT DEFERRABLE DEFERRED DELETE DESC "
+                       "DETACH DISTINCT DO DROP "
+                       "EACH ELSE END ESCAPE EXCEPT EXCLUDE EXCLUSIVE EXISTS EXPLAIN FAIL FILTER FIRST "
+                       "FOLLOWING FOR FOREIGN FROM "
+                       "FULL GENERATED GLOB GROUP GROUPS HAVING IF IGNORE IMMEDIATE IN INDEX INDEXED "
+                       "INITIALLY INNER INSERT "
+                       "INSTEAD INTERSECT INTO IS ISNULL JOIN KEY LAST LEFT LIKE LIMIT MATCH MATERIALIZED "
+                       "NATURAL NO NOT NOTHING "
+                       "NOTNULL NULL NULLS OF OFFSET ON OR ORDER OTHERS OUTER OVER PARTITION PLAN PRAGMA "
+                       "PRECEDING PRIMARY QUERY "
+                       "RAISE RANGE RECURSIVE REFERENCES REGEXP REINDEX RELEASE RENAME REPLACE RESTRICT "
+                       "RETURNING RIGHT ROLLBACK "
+                       "ROW ROWS SAVEPOINT SELECT SET TABLE TEMP TEMPORARY THEN TIES TO TRANSACTION TRIGGER "
+                       "UNBOUNDED UNION "
+                       "UNIQUE UPDATE USING VACUUM VALUES VIEW VIRTUAL WHEN WHERE WINDOW WITH WITHOUT")
             .split(QLatin1Char(' '));
     return palabras;
 }
@@ -130,8 +133,18 @@ bool DialectoSQLite::esPalabraClave(const QString& nombre) const {
     return palabrasClave().contains(nombre, Qt::CaseInsensitive);
 }
 
+// Binary, whatever the column's collation: under NOCASE "Banrural" would still find a row another user
+// changed to "BANRURAL", and the update would overwrite that change.
 QString DialectoSQLite::igualdadSegura(const QString& columnaCitada) const {
-    return columnaCitada + QStringLiteral(" IS ?");
+    return columnaCitada + QStringLiteral(" IS ? COLLATE BINARY");
+}
+
+// The driver reads a REAL as SQLite's text of it, 15 significant digits: 100/3 comes back as
+// 33.3333333333333. quote() writes 15 digits when they read back as the same value, else 21; where the
+// 15 do (most amounts), Null is cheaper to read.
+QString DialectoSQLite::valorExacto(const QString& columnaCitada) const {
+    return QStringLiteral("(CASE WHEN typeof(%1) = 'real' THEN NULLIF(quote(%1), CAST(%1 AS TEXT)) END)")
+        .arg(columnaCitada);
 }
 
 QVariant DialectoSQLite::claveGenerada(QSqlDatabase& bd, const QString&, const QString&) const {

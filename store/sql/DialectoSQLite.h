@@ -16,6 +16,7 @@ public:
 
     bool esPalabraClave(const QString& nombre) const override;
     QString igualdadSegura(const QString& columnaCitada) const override;
+    QString valorExacto(const QString& columnaCitada) const override;
     QVariant claveGenerada(QSqlDatabase& bd, const QString& tabla, const QString& clave) const override;
 
     QString concatenar(const std::vector<QString>& partes) const override;

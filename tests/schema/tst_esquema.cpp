@@ -539,7 +539,8 @@ void TstEsquema::busquedaDeUnDocumentoUsaIndices_data() {
 
 // Reading one document must not walk a whole table: at thousands of applications that is the
 // difference between a lookup and a wait at the counter. Reading back the rows of a subquery that was
-// itself narrowed by an index (a co-routine or a materialized subquery of the same name) is no walk.
+// itself narrowed by an index (a co-routine or a materialized subquery of the same name) is no walk,
+// nor is the one constant row of a sub-select without a table (where Format names its argument).
 void TstEsquema::busquedaDeUnDocumentoUsaIndices() {
     QFETCH(QString, sentencia);
     const QStringList plan = consulta("EXPLAIN QUERY PLAN " + tienda_->cn().traducir(sentencia), 3);
@@ -549,6 +550,7 @@ void TstEsquema::busquedaDeUnDocumentoUsaIndices() {
         for (const char* prefijo : {"CO-ROUTINE ", "MATERIALIZE "})
             if (paso.startsWith(QLatin1String(prefijo))) subconsultas << paso.mid(qstrlen(prefijo));
         const bool leeSubconsulta = paso.startsWith("SCAN ") && subconsultas.contains(paso.mid(5));
+        if (paso == QLatin1String("SCAN CONSTANT ROW")) continue;
         QVERIFY2(!paso.startsWith("SCAN") || leeSubconsulta, qPrintable(plan.join('\n')));
     }
 }

@@ -25,6 +25,7 @@ public:
         if (t == u"clientehistorial" && c == u"descripcion") return QMetaType::QString;
         return std::nullopt;
     }
+    QStringList columnas(const QString&) const override { return {}; }
 };
 
 // Every translation these tests make passes the checks of a safe translation, and SQLite's own

@@ -57,3 +57,17 @@ std::optional<QMetaType::Type> EsquemaEnMemoria::tipoColumna(const QString& tabl
     sqlite3_finalize(s);
     return tipo;
 }
+
+QStringList EsquemaEnMemoria::columnas(const QString& tabla) const {
+    sqlite3_stmt* s = nullptr;
+    QStringList nombres;
+    if (sqlite3_prepare_v2(bd_, "SELECT name FROM pragma_table_info(?) ORDER BY cid", -1, &s, nullptr) !=
+        SQLITE_OK)
+        return nombres;
+    const QByteArray t = tabla.toUtf8();
+    sqlite3_bind_text(s, 1, t.constData(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
+    while (sqlite3_step(s) == SQLITE_ROW)
+        nombres << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(s, 0)));
+    sqlite3_finalize(s);
+    return nombres;
+}

@@ -3,6 +3,7 @@
 #include "store/sql/Dialecto.h"
 
 #include <QString>
+#include <QStringList>
 
 struct sqlite3;
 
@@ -25,6 +26,7 @@ public:
     Preparacion preparar(const QString& sql) const;
 
     std::optional<QMetaType::Type> tipoColumna(const QString& tabla, const QString& columna) const override;
+    QStringList columnas(const QString& tabla) const override;
 
 private:
     sqlite3* bd_ = nullptr;
