@@ -60,8 +60,9 @@ QString plantillaConEsquema() {
 
 } // namespace
 
-BaseDePrueba::BaseDePrueba(bool esquema, FKSupport fkSupport)
-    : fkSupport_(fkSupport) {
+BaseDePrueba::BaseDePrueba(bool esquema, FKSupport fkSupport, int esperaMs)
+    : fkSupport_(fkSupport)
+    , esperaMs_(esperaMs) {
     if (!dir_.isValid()) qFatal("no temporary directory");
     guardar("ODBCSYSINI", odbcSysIni_, habiaOdbcSysIni_);
     guardar("ODBCINI", odbcIni_, habiaOdbcIni_);
@@ -95,7 +96,7 @@ void BaseDePrueba::escribirConfiguracionOdbc() const {
                        << "Description=Base de prueba\n"
                        << "Driver=" << CC_SQLITE3_ODBC_DRIVER << "\n"
                        << "Database=" << archivo() << "\n"
-                       << "JournalMode=WAL\nTimeout=5000\n";
+                       << "JournalMode=WAL\nTimeout=" << esperaMs_ << "\n";
     if (fkSupport_ != FKSupport::Ausente)
         QTextStream(&odbc) << "FKSupport=" << (fkSupport_ == FKSupport::Activado ? 1 : 0) << "\n";
     QFile instalados(dir_.filePath(QStringLiteral("odbcinst.ini")));

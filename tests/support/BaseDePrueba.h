@@ -14,8 +14,10 @@ public:
     // that (what cuentacorriente-db init writes), FKSupport=0, or an entry without the key.
     enum class FKSupport { Activado, Desactivado, Ausente };
 
-    // With esquema true the database is built from the project's schema/sqlite scripts.
-    explicit BaseDePrueba(bool esquema = false, FKSupport fkSupport = FKSupport::Activado);
+    // With esquema true the database is built from the project's schema/sqlite scripts. esperaMs is
+    // the Timeout of DSNBrenal: how long a statement waits for a lock another program holds.
+    explicit BaseDePrueba(bool esquema = false, FKSupport fkSupport = FKSupport::Activado,
+                          int esperaMs = 5000);
     ~BaseDePrueba();
     BaseDePrueba(const BaseDePrueba&) = delete;
     BaseDePrueba& operator=(const BaseDePrueba&) = delete;
@@ -37,6 +39,7 @@ private:
 
     QTemporaryDir dir_;
     FKSupport fkSupport_;
+    int esperaMs_;
     QByteArray odbcSysIni_, odbcIni_, home_;
     bool habiaOdbcSysIni_, habiaOdbcIni_, habiaHome_;
 };
