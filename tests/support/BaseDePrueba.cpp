@@ -89,6 +89,17 @@ QString BaseDePrueba::rutaEsquema() {
     return QStringLiteral(CC_SCHEMA_DIR);
 }
 
+QString BaseDePrueba::controladorSqlite() {
+    return QStringLiteral(CC_SQLITE3_ODBC_DRIVER);
+}
+
+void BaseDePrueba::reescribirOrigen(const QStringList& claves, const QString& nombre) const {
+    QFile odbc(dir_.filePath(QStringLiteral("odbc.ini")));
+    if (!odbc.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        qFatal("cannot write odbc.ini");
+    QTextStream(&odbc) << "[" << nombre << "]\n" << claves.join(QLatin1Char('\n')) << "\n";
+}
+
 void BaseDePrueba::escribirConfiguracionOdbc() const {
     QFile odbc(dir_.filePath(QStringLiteral("odbc.ini")));
     if (!odbc.open(QIODevice::WriteOnly | QIODevice::Text)) qFatal("cannot write odbc.ini");

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 // A fresh SQLite database in a temporary directory, reached through the data source DSNBrenal of a
@@ -33,6 +34,13 @@ public:
     QString valor(const QString& consulta) const;
 
     static QString rutaEsquema();
+    // The SQLite3 ODBC driver's library, as DSNBrenal names it.
+    static QString controladorSqlite();
+    // Writes odbc.ini anew with one data source, DSNBrenal or another, of these lines ("Clave=valor"
+    // each). unixODBC keeps for 20 seconds what it read of a data source, by its name: within one test
+    // program, a source written again must have been read by nothing before.
+    void reescribirOrigen(const QStringList& claves,
+                          const QString& nombre = QStringLiteral("DSNBrenal")) const;
 
 private:
     void escribirConfiguracionOdbc() const;
