@@ -13,13 +13,17 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
+#include <csignal>
+#include <functional>
 #include <memory>
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 namespace {
 
 struct Resultado {
-    int estado = -1;
+    int estado = -1;    // -1: it did not end by itself
+    bool murio = false; // ended by a signal
     QString salida, errores;
 };
 
@@ -113,9 +117,12 @@ private Q_SLOTS:
     void backupConLaBaseEnUso();
     void rechazaSinTocarNada_data();
     void rechazaSinTocarNada();
+    void backupCortadoNoDejaLaCopia_data();
+    void backupCortadoNoDejaLaCopia();
 
 private:
-    Resultado correr(const QStringList& args) const;
+    // Runs the program in the case's folder; `enElHijo` runs in the child just before the program.
+    Resultado correr(const QStringList& args, const std::function<void()>& enElHijo = {}) const;
     QString ruta(const QString& nombre) const { return dir_->filePath(nombre); }
     QString odbcIni() const { return ruta(QStringLiteral("odbc.ini")); }
     QString archivoPredeterminado() const { return ruta(QStringLiteral("datos/cuentacorriente/brenal.db")); }
@@ -168,13 +175,16 @@ void TstCuentacorrienteDb::cleanup() {
     dir_.reset();
 }
 
-Resultado TstCuentacorrienteDb::correr(const QStringList& args) const {
+Resultado TstCuentacorrienteDb::correr(const QStringList& args, const std::function<void()>& enElHijo) const {
     QProcess p;
     p.setProcessEnvironment(entorno_);
     p.setWorkingDirectory(dir_->path());
+    if (enElHijo) p.setChildProcessModifier(enElHijo);
     p.start(QStringLiteral(CC_DB_TOOL), args);
     Resultado r;
-    if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit) return r;
+    if (!p.waitForFinished(60000)) return r;
+    r.murio = p.exitStatus() != QProcess::NormalExit;
+    if (r.murio) return r;
     r.estado = p.exitCode();
     r.salida = QString::fromUtf8(p.readAllStandardOutput());
     r.errores = QString::fromUtf8(p.readAllStandardError());
@@ -530,6 +540,62 @@ void TstCuentacorrienteDb::rechazaSinTocarNada() {
     // Looking DSNBrenal up, unixODBC leaves an empty odbc.ini where there was none.
     if (!previo.contains(odbcIni()) && despues.value(odbcIni()) == QByteArray()) despues.remove(odbcIni());
     QCOMPARE(despues, previo);
+}
+
+void TstCuentacorrienteDb::backupCortadoNoDejaLaCopia_data() {
+    QTest::addColumn<bool>("muere"); // killed by the system at the limit, or only refused the write
+    QTest::newRow("el programa muere a mitad de la copia") << true;
+    QTest::newRow("la escritura falla a mitad de la copia") << false;
+}
+
+// A copy cut short never stands under the name asked for. The program runs with a limit on the size
+// of the files it writes, well under the database's: past it the system kills it (SIGXFSZ), as a
+// power cut or a kill would, or, with that signal ignored, refuses the write as a full disk does.
+// Killed, it leaves at most its partial copy under a name that says so; failing, it leaves nothing.
+void TstCuentacorrienteDb::backupCortadoNoDejaLaCopia() {
+    QFETCH(bool, muere);
+    const QString archivo = ruta(QStringLiteral("tienda.db"));
+    crear(archivo, true);
+    constexpr rlim_t limite = 64 * 1024;
+    QVERIFY(QFileInfo(archivo).size() > 2 * qint64(limite));
+    const QString carpeta = ruta(QStringLiteral("copias"));
+    QVERIFY(QDir().mkpath(carpeta));
+
+    const Resultado r = correr(
+        {QStringLiteral("backup"), QStringLiteral("copias/copia.db"), QStringLiteral("--file"), archivo},
+        [muere] {
+            const rlimit tamano{limite, limite}, nucleo{0, 0};
+            setrlimit(RLIMIT_FSIZE, &tamano);
+            setrlimit(RLIMIT_CORE, &nucleo);
+            signal(SIGXFSZ, muere ? SIG_DFL : SIG_IGN);
+        });
+    const QFileInfoList quedan = QDir(carpeta).entryInfoList(QDir::Files | QDir::Hidden);
+    QStringList nombres;
+    for (const QFileInfo& f : quedan)
+        nombres << f.fileName() + QLatin1Char('=') + QString::number(f.size());
+    if (muere) {
+        QVERIFY2(r.murio, qPrintable(r.salida + r.errores));
+        // Cut in the middle of the copy: what it had written stays, under its own name.
+        QVERIFY2(quedan.size() >= 1 && quedan.size() <= 2, qPrintable(nombres.join(u' ')));
+        for (const QFileInfo& f : quedan)
+            QVERIFY2(f.fileName().startsWith(QLatin1String("copia.db.incompleta-")),
+                     qPrintable(nombres.join(u' ')));
+        QVERIFY2(quedan.first().size() > 0, qPrintable(nombres.join(u' ')));
+    } else {
+        QCOMPARE(r.estado, 1);
+        QVERIFY2(r.errores.contains(ruta(QStringLiteral("copias/copia.db"))), qPrintable(r.errores));
+        QVERIFY2(quedan.isEmpty(), qPrintable(nombres.join(u' ')));
+    }
+    QVERIFY(!QFileInfo::exists(ruta(QStringLiteral("copias/copia.db"))));
+
+    // Done again without the limit, the copy is whole and nothing partial is added.
+    const Resultado otra = correr(
+        {QStringLiteral("backup"), QStringLiteral("copias/copia.db"), QStringLiteral("--file"), archivo});
+    QVERIFY2(otra.estado == 0, qPrintable(otra.errores));
+    QCOMPARE(QDir(carpeta).entryList(QDir::Files | QDir::Hidden).size(), quedan.size() + 1);
+    Sqlite copia(ruta(QStringLiteral("copias/copia.db")));
+    QCOMPARE(copia.valor(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+    QCOMPARE(copia.filasPorTabla(), Sqlite(archivo).filasPorTabla());
 }
 
 QTEST_GUILESS_MAIN(TstCuentacorrienteDb)
