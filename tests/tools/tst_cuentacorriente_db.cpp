@@ -119,10 +119,19 @@ private Q_SLOTS:
     void rechazaSinTocarNada();
     void backupCortadoNoDejaLaCopia_data();
     void backupCortadoNoDejaLaCopia();
+    void initDejaLaBaseEnSuArchivo_data();
+    void initDejaLaBaseEnSuArchivo();
 
 private:
     // Runs the program in the case's folder; `enElHijo` runs in the child just before the program.
     Resultado correr(const QStringList& args, const std::function<void()>& enElHijo = {}) const;
+    // Runs it in a mount namespace of its own (unshare -Urm, which needs no root where the kernel lets
+    // users have one), after the shell commands `montar` (a small disk, read-only media nobody else
+    // sees) and with `despues` run once it has ended, while those mounts still stand.
+    Resultado correrConMontajes(const QString& montar, const QStringList& args,
+                                const QString& despues = {}) const;
+    // Whether this machine lets the tests have mounts of their own.
+    static bool hayMontajesPropios();
     QString ruta(const QString& nombre) const { return dir_->filePath(nombre); }
     QString odbcIni() const { return ruta(QStringLiteral("odbc.ini")); }
     QString archivoPredeterminado() const { return ruta(QStringLiteral("datos/cuentacorriente/brenal.db")); }
@@ -189,6 +198,38 @@ Resultado TstCuentacorrienteDb::correr(const QStringList& args, const std::funct
     r.salida = QString::fromUtf8(p.readAllStandardOutput());
     r.errores = QString::fromUtf8(p.readAllStandardError());
     return r;
+}
+
+Resultado TstCuentacorrienteDb::correrConMontajes(const QString& montar, const QStringList& args,
+                                                  const QString& despues) const {
+    QProcess p;
+    p.setProcessEnvironment(entorno_);
+    p.setWorkingDirectory(dir_->path());
+    const QString guion = QStringLiteral("set -e\n%1\nset +e\n\"$0\" \"$@\"\nestado=$?\n%2\nexit $estado\n")
+                              .arg(montar, despues);
+    p.start(QStringLiteral("unshare"), QStringList{QStringLiteral("-Urm"), QStringLiteral("sh"),
+                                                   QStringLiteral("-c"), guion, QStringLiteral(CC_DB_TOOL)} +
+                                           args);
+    Resultado r;
+    if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit) return r;
+    r.estado = p.exitCode();
+    r.salida = QString::fromUtf8(p.readAllStandardOutput());
+    r.errores = QString::fromUtf8(p.readAllStandardError());
+    return r;
+}
+
+bool TstCuentacorrienteDb::hayMontajesPropios() {
+    static const bool hay = [] {
+        QTemporaryDir dir;
+        QProcess p;
+        p.start(QStringLiteral("unshare"),
+                {QStringLiteral("-Urm"), QStringLiteral("sh"), QStringLiteral("-c"),
+                 QStringLiteral("mount -t tmpfs -o size=64k tmpfs \"$0\" && mount --bind \"$0\" \"$0\" && "
+                                "mount -o remount,bind,ro \"$0\""),
+                 dir.path()});
+        return p.waitForFinished(10000) && p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
+    }();
+    return hay;
 }
 
 void TstCuentacorrienteDb::crear(const QString& archivo, bool demo) {
@@ -596,6 +637,64 @@ void TstCuentacorrienteDb::backupCortadoNoDejaLaCopia() {
     Sqlite copia(ruta(QStringLiteral("copias/copia.db")));
     QCOMPARE(copia.valor(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
     QCOMPARE(copia.filasPorTabla(), Sqlite(archivo).filasPorTabla());
+}
+
+void TstCuentacorrienteDb::initDejaLaBaseEnSuArchivo_data() {
+    QTest::addColumn<bool>("demo");
+    QTest::addColumn<bool>("casiLleno"); // on a disk with room for the -wal file, not for the database too
+    for (const bool demo : {false, true})
+        for (const bool casiLleno : {false, true})
+            QTest::addRow("%s, %s", demo ? "con datos de ejemplo" : "vacía",
+                          casiLleno ? "disco casi lleno" : "disco con espacio")
+                << demo << casiLleno;
+}
+
+// Once init says the database is made, its file alone is the whole database: copied without the -wal
+// file, it holds every row. On a disk that takes what the scripts write (into the -wal file) but not
+// that moved into the database, init fails saying so and leaves neither database nor data source.
+void TstCuentacorrienteDb::initDejaLaBaseEnSuArchivo() {
+    QFETCH(bool, demo);
+    QFETCH(bool, casiLleno);
+    if (casiLleno && !hayMontajesPropios())
+        QSKIP("this machine lets no user mount a small disk of their own (unshare -Urm)");
+    const QString referencia = ruta(QStringLiteral("referencia/brenal.db"));
+    QVERIFY(QDir().mkpath(ruta(QStringLiteral("referencia"))));
+    crear(referencia, demo);
+    const QStringList filas = Sqlite(referencia).filasPorTabla();
+    QFile::remove(odbcIni());
+
+    const QString disco = ruta(QStringLiteral("disco"));
+    const QString archivo = disco + QStringLiteral("/brenal.db");
+    QVERIFY(QDir().mkpath(disco));
+    QStringList args{QStringLiteral("init"), QStringLiteral("--file"), archivo};
+    if (demo) args << QStringLiteral("--demo");
+    if (!casiLleno) {
+        const Resultado r = correr(args);
+        QVERIFY2(r.estado == 0, qPrintable(r.errores));
+        const QFileInfo registro(archivo + QStringLiteral("-wal"));
+        QVERIFY(!registro.exists() || registro.size() == 0);
+        const QString solo = ruta(QStringLiteral("solo/brenal.db"));
+        QVERIFY(QDir().mkpath(ruta(QStringLiteral("solo"))) && QFile::copy(archivo, solo));
+        Sqlite copia(solo);
+        QCOMPARE(copia.valor(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+        QCOMPARE(copia.filasPorTabla(), filas);
+        return;
+    }
+    // Room for the -wal file (the database's pages and a header for each), its index and half the
+    // database: what the checkpoint writes into the database runs out of room. What the small disk
+    // holds at the end is copied out before it goes.
+    const qint64 tamano = QFileInfo(referencia).size();
+    const qint64 kb = (tamano + tamano / 4096 * 24 + 32 + 32768 + tamano / 2 + 4095) / 4096 * 4;
+    const QString quedo = ruta(QStringLiteral("quedo"));
+    QVERIFY(QDir().mkpath(quedo));
+    const Resultado r =
+        correrConMontajes(QStringLiteral("mount -t tmpfs -o size=%1k tmpfs '%2'").arg(kb).arg(disco), args,
+                          QStringLiteral("cp -a '%1/.' '%2/'").arg(disco, quedo));
+    QCOMPARE(r.estado, 1);
+    QVERIFY2(r.errores.contains(archivo) && r.errores.contains(QLatin1String("espacio")),
+             qPrintable(r.errores));
+    QCOMPARE(QDir(quedo).entryList(QDir::Files | QDir::Hidden), QStringList());
+    QVERIFY(seccionIni(odbcIni(), QStringLiteral("DSNBrenal")).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TstCuentacorrienteDb)
