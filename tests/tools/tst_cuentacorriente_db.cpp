@@ -121,6 +121,8 @@ private Q_SLOTS:
     void backupCortadoNoDejaLaCopia();
     void initDejaLaBaseEnSuArchivo_data();
     void initDejaLaBaseEnSuArchivo();
+    void medioDeSoloLectura_data();
+    void medioDeSoloLectura();
 
 private:
     // Runs the program in the case's folder; `enElHijo` runs in the child just before the program.
@@ -695,6 +697,68 @@ void TstCuentacorrienteDb::initDejaLaBaseEnSuArchivo() {
              qPrintable(r.errores));
     QCOMPARE(QDir(quedo).entryList(QDir::Files | QDir::Hidden), QStringList());
     QVERIFY(seccionIni(odbcIni(), QStringLiteral("DSNBrenal")).isEmpty());
+}
+
+void TstCuentacorrienteDb::medioDeSoloLectura_data() {
+    QTest::addColumn<QString>("soloLectura"); // what is mounted read-only, under the case's folder
+    QTest::addColumn<QStringList>("args");    // @ stands for the case's folder
+    QTest::addColumn<int>("estado");
+    QTest::addColumn<QString>("dice"); // in what the program writes
+    const auto fila = [](const char* nombre, const char* soloLectura, const QStringList& args, int estado,
+                         const char* dice) {
+        QTest::newRow(nombre) << QString::fromUtf8(soloLectura) << args << estado << QString::fromUtf8(dice);
+    };
+    const QStringList initTienda{"init", "--file", "@/tienda/brenal.db"};
+    fila("status, carpeta", "tienda", {"status"}, 1, "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("status, archivo", "tienda/brenal.db", {"status"}, 0,
+         "Aviso: la base de datos está en un medio de solo lectura (el archivo no admite escritura)");
+    fila("backup desde una carpeta", "tienda", {"backup", "@/copia.db"}, 1,
+         "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("backup desde un archivo", "tienda/brenal.db", {"backup", "@/copia.db"}, 0,
+         "Copia de @/tienda/brenal.db");
+    fila("backup a una carpeta", "copias", {"backup", "@/copias/copia.db"}, 1,
+         "La carpeta @/copias no admite escritura");
+    fila("init sobre la base, carpeta", "tienda", initTienda, 1,
+         "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("init sobre la base, archivo", "tienda/brenal.db", initTienda, 1,
+         "en un medio de solo lectura (el archivo no admite escritura)");
+    fila("init de una base nueva", "copias", {"init", "--file", "@/copias/nueva/brenal.db"}, 1,
+         "La carpeta @/copias no admite escritura");
+}
+
+// A store's database on read-only media is said to be so, never "not a database": what can be read is
+// read (with a warning that the application could not save), what cannot is refused naming the file
+// and what is read-only, and nothing changes: no database, data source or copy.
+void TstCuentacorrienteDb::medioDeSoloLectura() {
+    QFETCH(QString, soloLectura);
+    QFETCH(QStringList, args);
+    QFETCH(int, estado);
+    QFETCH(QString, dice);
+    if (!hayMontajesPropios())
+        QSKIP("this machine lets no user mount read-only media of their own (unshare -Urm)");
+    QVERIFY(QDir().mkpath(ruta(QStringLiteral("tienda"))) && QDir().mkpath(ruta(QStringLiteral("copias"))));
+    crear(ruta(QStringLiteral("tienda/brenal.db")), true);
+    const auto conCarpeta = [this](QString texto) { return texto.replace(u'@', dir_->path()); };
+    for (QString& a : args)
+        a = conCarpeta(a);
+    const QMap<QString, QByteArray> previo = archivos();
+
+    const QString medio = ruta(soloLectura);
+    const Resultado r = correrConMontajes(
+        QStringLiteral("mount --bind '%1' '%1'\nmount -o remount,bind,ro '%1'").arg(medio), args);
+    QCOMPARE(r.estado, estado);
+    const QString escrito = r.salida + r.errores;
+    QVERIFY2(escrito.contains(conCarpeta(dice)), qPrintable(escrito));
+    QVERIFY2(!escrito.contains(QLatin1String("no es una base de datos")), qPrintable(escrito));
+    QMap<QString, QByteArray> despues = archivos();
+    if (estado == 0 && args.first() == QLatin1String("backup")) {
+        const bool copiada = despues.remove(args.at(1)) == 1;
+        QVERIFY(copiada);
+        QCOMPARE(Sqlite(args.at(1)).filasPorTabla(),
+                 Sqlite(ruta(QStringLiteral("tienda/brenal.db"))).filasPorTabla());
+    }
+    QCOMPARE(despues.keys(), previo.keys());
+    QCOMPARE(despues, previo);
 }
 
 QTEST_GUILESS_MAIN(TstCuentacorrienteDb)

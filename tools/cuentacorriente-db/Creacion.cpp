@@ -1,6 +1,7 @@
 #include "Creacion.h"
 
 #include "BaseSqlite.h"
+#include "SoloLectura.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,6 +80,11 @@ void crearBase(const QString& archivo, const QList<Script>& scripts) {
     const QFileInfo info(archivo);
     // Never over an existing file: the clean-up below would delete it.
     if (info.exists() || info.isSymLink()) throw Error(QStringLiteral("%1 ya existe.").arg(archivo));
+    if (const QString carpeta = carpetaExistente(archivo); !admiteEscritura(carpeta))
+        throw Error(
+            QStringLiteral("La carpeta %1 no admite escritura (¿un medio de solo lectura?): no se puede "
+                           "crear allí la base de datos %2.")
+                .arg(carpeta, archivo));
     if (!QDir().mkpath(info.absolutePath()))
         throw Error(QStringLiteral("No se pudo crear la carpeta %1.").arg(info.absolutePath()));
     try {

@@ -1,6 +1,7 @@
 #include "Respaldo.h"
 
 #include "BaseSqlite.h"
+#include "SoloLectura.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -58,6 +59,11 @@ Respaldo respaldar(const QString& origen, const QString& destino) {
     if (info.exists() || info.isSymLink())
         throw Error(QStringLiteral("%1 ya existe; la copia no reemplaza ningún archivo.").arg(destino));
     exigirBaseDelSistema(origen);
+    if (const QString carpeta = carpetaExistente(destino); !admiteEscritura(carpeta))
+        throw Error(
+            QStringLiteral("La carpeta %1 no admite escritura (¿un medio de solo lectura?): la copia no "
+                           "se puede guardar allí.")
+                .arg(carpeta));
     const QString provisional = nombreProvisional(destino);
     Respaldo hecho;
     try {
