@@ -7,6 +7,7 @@ packages=(
     build-essential cmake ninja-build pkg-config
     qt6-base-dev libqt6sql6-odbc qt6-svg-dev fonts-dejavu-core fonts-liberation2 xvfb xauth
     unixodbc unixodbc-dev odbcinst libsqliteodbc sqlite3 libsqlite3-dev
+    mount
     libbenchmark-dev
     clang libclang-rt-14-dev
 )

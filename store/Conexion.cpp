@@ -2,6 +2,8 @@
 
 #include "store/ErrorBase.h"
 #include "store/Fallo.h"
+#include "store/OpcionesSqlite.h"
+#include "store/OrigenConfigurado.h"
 #include "store/sql/DialectoSQLite.h"
 #include "store/sql/Parser.h"
 
@@ -165,13 +167,17 @@ void Conexion::Open(const QString& cadena, const QString& usuario, const QString
             FalloConexion,
             QStringLiteral("No se encontró el nombre del origen de datos en \"%1\".").arg(d_->cadena));
 
+    // What odbc.ini says is looked at first: the SQLite driver needs options of its own.
+    const OrigenConfigurado configurado = leerOrigenConfigurado(origen);
+    const QString paraElControlador = configurado.deSqlite() ? cadenaParaSqlite(origen, configurado) : origen;
+
     QString error;
     {
         QSqlDatabase bd = QSqlDatabase::contains(d_->nombreConexion)
                               ? QSqlDatabase::database(d_->nombreConexion, false)
                               : QSqlDatabase::addDatabase(QStringLiteral("QODBC"), d_->nombreConexion);
-        // Qt's ODBC driver writes "DSN=" itself: it takes the bare name.
-        bd.setDatabaseName(origen);
+        // Qt's ODBC driver writes "DSN=" itself: it takes the bare name, and any options after it.
+        bd.setDatabaseName(paraElControlador);
         if (bd.open(usuario, clave)) {
             try {
                 d_->dialecto = dialectoPara(nombreGestor(bd), origen);

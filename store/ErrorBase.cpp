@@ -14,8 +14,9 @@ bool esBloqueo(const QSqlError& e) {
 Fallo falloDeBase(const QSqlError& e) {
     if (esBloqueo(e))
         return Fallo(FalloBaseOcupada,
-                     QStringLiteral("La base de datos está ocupada por otra estación o programa y no se "
-                                    "pudo escribir. Nada se guardó: vuelva a intentarlo en un momento."));
+                     QStringLiteral("La base de datos está ocupada: otra estación de trabajo u otra pantalla "
+                                    "tiene estos datos en uso. Espere un momento y vuelva a intentarlo; aquí "
+                                    "no se perdió nada."));
     return Fallo(FalloGeneral, textoError(e));
 }
 

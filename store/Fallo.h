@@ -46,7 +46,8 @@ inline constexpr qint32 FalloFilaCambiada = numeroFallo(0x80040E38u);
 // An operation the recordset or connection does not allow in its state.
 inline constexpr qint32 FalloOperacionNoPermitida = numeroFallo(0x800A0CB3u);
 // The database is busy: another connection holds its write lock (on SQLite, a transaction of the
-// shared connection that has already written). Nothing was written; the same step may be tried again.
+// shared connection that has already written, or another program or workstation). Nothing was
+// written; the same step may be tried again.
 inline constexpr qint32 FalloBaseOcupada = numeroFallo(0x80040E31u);
 // The data source could not be opened.
 inline constexpr qint32 FalloConexion = numeroFallo(0x80004005u);

@@ -1,7 +1,8 @@
 // Two connections to one database file, as the screens use them side by side: the shared connection
 // with the transaction of the screen being edited, and a data control's own connection that saves at
 // once. The shared transaction reads committed data until it first writes; only then does it hold the
-// write lock, and a write elsewhere is refused at once with a failure the clerk can act on.
+// write lock, and a write elsewhere is refused at once with a failure the clerk can act on. A lock
+// another program holds is waited for as long as the data source says, then refused the same way.
 #include "BaseDePrueba.h"
 #include "NumeroDelFallo.h"
 #include "runtime/Conversion.h"
@@ -9,12 +10,72 @@
 #include "store/Fallo.h"
 #include "store/Recordset.h"
 
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QThread>
 #include <QtTest>
 #include <sqlite3.h>
 
 using namespace store;
 
 namespace {
+
+// DSNBrenal's Timeout here: short, so that the waits for another program's lock are short.
+constexpr int esperaMs = 300;
+
+// Another program's hold on the database's write lock (BEGIN IMMEDIATE), from a second process (the
+// sqlite3 shell) or from a connection of this process that the store does not know.
+class TitularAjeno {
+public:
+    TitularAjeno(const QString& archivo, bool otroProceso) {
+        if (!otroProceso) {
+            QCOMPARE(sqlite3_open(archivo.toUtf8().constData(), &db_), SQLITE_OK);
+            QCOMPARE(sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+            return;
+        }
+        const QString shell = QStandardPaths::findExecutable(QStringLiteral("sqlite3"));
+        QVERIFY2(!shell.isEmpty(), "the sqlite3 shell is not installed");
+        proceso_.start(shell, {archivo});
+        QVERIFY(proceso_.waitForStarted());
+        // It waits out the probes below, which hold the lock for an instant.
+        proceso_.write(".timeout 5000\nBEGIN IMMEDIATE;\n");
+        QVERIFY(proceso_.waitForBytesWritten());
+        // Held once a write of our own is refused at once.
+        QDeadlineTimer plazo(10000);
+        while (!tomadaPorOtro(archivo)) {
+            QVERIFY2(!plazo.hasExpired() && proceso_.state() == QProcess::Running, "the shell took no lock");
+            QThread::msleep(10);
+        }
+    }
+    ~TitularAjeno() { soltar(); }
+
+    void soltar() {
+        if (db_) {
+            sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+            sqlite3_close(db_);
+            db_ = nullptr;
+        }
+        if (proceso_.state() != QProcess::NotRunning) {
+            proceso_.write("ROLLBACK;\n.quit\n");
+            proceso_.closeWriteChannel();
+            if (!proceso_.waitForFinished(10000)) proceso_.kill();
+        }
+    }
+
+private:
+    static bool tomadaPorOtro(const QString& archivo) {
+        sqlite3* prueba = nullptr;
+        sqlite3_open(archivo.toUtf8().constData(), &prueba);
+        const int r = sqlite3_exec(prueba, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+        if (r == SQLITE_OK) sqlite3_exec(prueba, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_close(prueba);
+        return r == SQLITE_BUSY;
+    }
+
+    sqlite3* db_ = nullptr;
+    QProcess proceso_;
+};
 
 QString leer(Conexion& cn, const QString& sentencia) {
     Recordset rs;
@@ -35,7 +96,8 @@ private Q_SLOTS:
     void escrituraAjenaMientrasHayMoraPendiente();
     void cancelarSueltaLaBase_data();
     void cancelarSueltaLaBase();
-    void bloqueoDeOtroProgramaEsBaseOcupada();
+    void bloqueoDeOtroPrograma_data();
+    void bloqueoDeOtroPrograma();
     void sentenciaRechazadaNoTomaLaBase();
 
 private:
@@ -46,7 +108,7 @@ private:
 };
 
 void TstConcurrencia::init() {
-    base_ = std::make_unique<BaseDePrueba>(true);
+    base_ = std::make_unique<BaseDePrueba>(true, BaseDePrueba::FKSupport::Activado, esperaMs);
     base_->sqlite(
         QStringLiteral("INSERT INTO Cliente (ClienteID, Nombres, Apellidos) VALUES (1, 'Rosa', 'Pérez');"
                        "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, Estado, Mora) "
@@ -200,25 +262,61 @@ void TstConcurrencia::cancelarSueltaLaBase() {
              QStringLiteral("5.0"));
 }
 
-// Another program (or workstation) holding the write lock: the driver waits its time-out and the
-// write fails as busy, with nothing written; once the lock goes, the same write goes through.
-void TstConcurrencia::bloqueoDeOtroProgramaEsBaseOcupada() {
-    sqlite3* ajena = nullptr;
-    QCOMPARE(sqlite3_open(base_->archivo().toUtf8().constData(), &ajena), SQLITE_OK);
-    QCOMPARE(sqlite3_exec(ajena, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+void TstConcurrencia::bloqueoDeOtroPrograma_data() {
+    QTest::addColumn<bool>("otroProceso"); // the lock held by another process, or by a connection of
+                                           // this one that the program does not know
+    QTest::addColumn<QString>("escritura");
+    for (const bool proceso : {false, true})
+        for (const char* escritura : {"transaccion", "sentencia", "recordset"})
+            QTest::addRow("%s, %s", proceso ? "otro proceso" : "otra conexion", escritura)
+                << proceso << QString::fromLatin1(escritura);
+}
 
-    cn_.BeginTrans();
-    const auto mora = [&] {
-        cn_.Execute(QStringLiteral("Update Solicitud Set Mora = 9 Where SolicitudID = 1"));
-    };
-    QCOMPARE(QString::number(static_cast<quint32>(numeroDelFallo(mora)), 16).toUpper(),
-             QStringLiteral("80040E31"));
+// Another program (or workstation) holding the write lock: the write waits the data source's Timeout,
+// no more, and fails as busy with a message that says what holds the data and what to do, nothing
+// written and an edit still pending; once the lock goes, the same write goes through.
+void TstConcurrencia::bloqueoDeOtroPrograma() {
+    QFETCH(bool, otroProceso);
+    QFETCH(QString, escritura);
+    Recordset solicitud;
+    std::function<void()> guardar;
+    if (escritura == QLatin1String("transaccion")) {
+        cn_.BeginTrans();
+        guardar = [&] { cn_.Execute(QStringLiteral("Update Solicitud Set Mora = 9 Where SolicitudID = 1")); };
+    } else if (escritura == QLatin1String("sentencia")) {
+        guardar = [&] {
+            otra_.Execute(QStringLiteral("Update Solicitud Set Mora = 9 Where SolicitudID = 1"));
+        };
+    } else {
+        solicitud.Open(QStringLiteral("Select * From Solicitud Where SolicitudID = 1"), otra_);
+        solicitud.Fields(QStringLiteral("Mora")) = 9;
+        guardar = [&] { solicitud.Update(); };
+    }
+
+    TitularAjeno titular(base_->archivo(), otroProceso);
+    if (QTest::currentTestFailed()) return;
+    QElapsedTimer reloj;
+    reloj.start();
+    try {
+        guardar();
+        QFAIL("a write under another program's lock went through");
+    } catch (const Fallo& f) {
+        const qint64 espera = reloj.elapsed();
+        QCOMPARE(f.numeroHex(), QStringLiteral("80040E31"));
+        for (const char* dice :
+             {"otra estación de trabajo u otra pantalla", "vuelva a intentarlo", "no se perdió nada"})
+            QVERIFY2(f.descripcion().contains(QString::fromUtf8(dice)), qPrintable(f.descripcion()));
+        QVERIFY2(espera >= esperaMs * 9 / 10 && espera < esperaMs * 3 / 2,
+                 qPrintable(QStringLiteral("waited %1 ms for a Timeout of %2 ms").arg(espera).arg(esperaMs)));
+    }
     QVERIFY(!cn_.escribiendo());
+    if (escritura == QLatin1String("recordset")) QCOMPARE(solicitud.EditMode(), int(adEditInProgress));
+    QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
+             QStringLiteral("0.0"));
 
-    QCOMPARE(sqlite3_exec(ajena, "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(ajena);
-    mora();
-    cn_.CommitTrans();
+    titular.soltar();
+    guardar();
+    if (cn_.nivelTransaccion() > 0) cn_.CommitTrans();
     QCOMPARE(base_->valor(QStringLiteral("SELECT Mora FROM Solicitud WHERE SolicitudID = 1")),
              QStringLiteral("9.0"));
 }

@@ -57,8 +57,9 @@ QString plantillaConEsquema() {
 
 } // namespace
 
-BaseDePrueba::BaseDePrueba(bool esquema, FKSupport fkSupport)
-    : fkSupport_(fkSupport) {
+BaseDePrueba::BaseDePrueba(bool esquema, FKSupport fkSupport, int esperaMs)
+    : fkSupport_(fkSupport)
+    , esperaMs_(esperaMs) {
     if (!dir_.isValid()) qFatal("no temporary directory");
     guardar("ODBCSYSINI", odbcSysIni_, habiaOdbcSysIni_);
     guardar("ODBCINI", odbcIni_, habiaOdbcIni_);
@@ -85,6 +86,17 @@ QString BaseDePrueba::rutaEsquema() {
     return QStringLiteral(CC_SCHEMA_DIR);
 }
 
+QString BaseDePrueba::controladorSqlite() {
+    return QStringLiteral(CC_SQLITE3_ODBC_DRIVER);
+}
+
+void BaseDePrueba::reescribirOrigen(const QStringList& claves, const QString& nombre) const {
+    QFile odbc(dir_.filePath(QStringLiteral("odbc.ini")));
+    if (!odbc.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        qFatal("cannot write odbc.ini");
+    QTextStream(&odbc) << "[" << nombre << "]\n" << claves.join(QLatin1Char('\n')) << "\n";
+}
+
 void BaseDePrueba::escribirConfiguracionOdbc() const {
     QFile odbc(dir_.filePath(QStringLiteral("odbc.ini")));
     if (!odbc.open(QIODevice::WriteOnly | QIODevice::Text)) qFatal("cannot write odbc.ini");
@@ -92,7 +104,7 @@ void BaseDePrueba::escribirConfiguracionOdbc() const {
                        << "Description=Base de prueba\n"
                        << "Driver=" << CC_SQLITE3_ODBC_DRIVER << "\n"
                        << "Database=" << archivo() << "\n"
-                       << "JournalMode=WAL\nTimeout=5000\n";
+                       << "JournalMode=WAL\nTimeout=" << esperaMs_ << "\n";
     if (fkSupport_ != FKSupport::Ausente)
         QTextStream(&odbc) << "FKSupport=" << (fkSupport_ == FKSupport::Activado ? 1 : 0) << "\n";
     QFile instalados(dir_.filePath(QStringLiteral("odbcinst.ini")));

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 // A fresh SQLite database in a temporary directory, reached through the data source DSNBrenal of a
@@ -14,8 +15,10 @@ public:
     // that (what cuentacorriente-db init writes), FKSupport=0, or an entry without the key.
     enum class FKSupport { Activado, Desactivado, Ausente };
 
-    // With esquema true the database is built from the project's schema/sqlite scripts.
-    explicit BaseDePrueba(bool esquema = false, FKSupport fkSupport = FKSupport::Activado);
+    // With esquema true the database is built from the project's schema/sqlite scripts. esperaMs is
+    // the Timeout of DSNBrenal: how long a statement waits for a lock another program holds.
+    explicit BaseDePrueba(bool esquema = false, FKSupport fkSupport = FKSupport::Activado,
+                          int esperaMs = 5000);
     ~BaseDePrueba();
     BaseDePrueba(const BaseDePrueba&) = delete;
     BaseDePrueba& operator=(const BaseDePrueba&) = delete;
@@ -31,12 +34,20 @@ public:
     QString valor(const QString& consulta) const;
 
     static QString rutaEsquema();
+    // The SQLite3 ODBC driver's library, as DSNBrenal names it.
+    static QString controladorSqlite();
+    // Writes odbc.ini anew with one data source, DSNBrenal or another, of these lines ("Clave=valor"
+    // each). unixODBC keeps for 20 seconds what it read of a data source, by its name: within one test
+    // program, a source written again must have been read by nothing before.
+    void reescribirOrigen(const QStringList& claves,
+                          const QString& nombre = QStringLiteral("DSNBrenal")) const;
 
 private:
     void escribirConfiguracionOdbc() const;
 
     QTemporaryDir dir_;
     FKSupport fkSupport_;
+    int esperaMs_;
     QByteArray odbcSysIni_, odbcIni_, home_;
     bool habiaOdbcSysIni_, habiaOdbcIni_, habiaHome_;
 };

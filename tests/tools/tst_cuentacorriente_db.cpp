@@ -13,13 +13,17 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
+#include <csignal>
+#include <functional>
 #include <memory>
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 namespace {
 
 struct Resultado {
-    int estado = -1;
+    int estado = -1;    // -1: it did not end by itself
+    bool murio = false; // ended by a signal
     QString salida, errores;
 };
 
@@ -113,9 +117,23 @@ private Q_SLOTS:
     void backupConLaBaseEnUso();
     void rechazaSinTocarNada_data();
     void rechazaSinTocarNada();
+    void backupCortadoNoDejaLaCopia_data();
+    void backupCortadoNoDejaLaCopia();
+    void initDejaLaBaseEnSuArchivo_data();
+    void initDejaLaBaseEnSuArchivo();
+    void medioDeSoloLectura_data();
+    void medioDeSoloLectura();
 
 private:
-    Resultado correr(const QStringList& args) const;
+    // Runs the program in the case's folder; `enElHijo` runs in the child just before the program.
+    Resultado correr(const QStringList& args, const std::function<void()>& enElHijo = {}) const;
+    // Runs it in a mount namespace of its own (unshare -Urm, which needs no root where the kernel lets
+    // users have one), after the shell commands `montar` (a small disk, read-only media nobody else
+    // sees) and with `despues` run once it has ended, while those mounts still stand.
+    Resultado correrConMontajes(const QString& montar, const QStringList& args,
+                                const QString& despues = {}) const;
+    // Whether this machine lets the tests have mounts of their own.
+    static bool hayMontajesPropios();
     QString ruta(const QString& nombre) const { return dir_->filePath(nombre); }
     QString odbcIni() const { return ruta(QStringLiteral("odbc.ini")); }
     QString archivoPredeterminado() const { return ruta(QStringLiteral("datos/cuentacorriente/brenal.db")); }
@@ -168,17 +186,52 @@ void TstCuentacorrienteDb::cleanup() {
     dir_.reset();
 }
 
-Resultado TstCuentacorrienteDb::correr(const QStringList& args) const {
+Resultado TstCuentacorrienteDb::correr(const QStringList& args, const std::function<void()>& enElHijo) const {
     QProcess p;
     p.setProcessEnvironment(entorno_);
     p.setWorkingDirectory(dir_->path());
+    if (enElHijo) p.setChildProcessModifier(enElHijo);
     p.start(QStringLiteral(CC_DB_TOOL), args);
+    Resultado r;
+    if (!p.waitForFinished(60000)) return r;
+    r.murio = p.exitStatus() != QProcess::NormalExit;
+    if (r.murio) return r;
+    r.estado = p.exitCode();
+    r.salida = QString::fromUtf8(p.readAllStandardOutput());
+    r.errores = QString::fromUtf8(p.readAllStandardError());
+    return r;
+}
+
+Resultado TstCuentacorrienteDb::correrConMontajes(const QString& montar, const QStringList& args,
+                                                  const QString& despues) const {
+    QProcess p;
+    p.setProcessEnvironment(entorno_);
+    p.setWorkingDirectory(dir_->path());
+    const QString guion = QStringLiteral("set -e\n%1\nset +e\n\"$0\" \"$@\"\nestado=$?\n%2\nexit $estado\n")
+                              .arg(montar, despues);
+    p.start(QStringLiteral("unshare"), QStringList{QStringLiteral("-Urm"), QStringLiteral("sh"),
+                                                   QStringLiteral("-c"), guion, QStringLiteral(CC_DB_TOOL)} +
+                                           args);
     Resultado r;
     if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit) return r;
     r.estado = p.exitCode();
     r.salida = QString::fromUtf8(p.readAllStandardOutput());
     r.errores = QString::fromUtf8(p.readAllStandardError());
     return r;
+}
+
+bool TstCuentacorrienteDb::hayMontajesPropios() {
+    static const bool hay = [] {
+        QTemporaryDir dir;
+        QProcess p;
+        p.start(QStringLiteral("unshare"),
+                {QStringLiteral("-Urm"), QStringLiteral("sh"), QStringLiteral("-c"),
+                 QStringLiteral("mount -t tmpfs -o size=64k tmpfs \"$0\" && mount --bind \"$0\" \"$0\" && "
+                                "mount -o remount,bind,ro \"$0\""),
+                 dir.path()});
+        return p.waitForFinished(10000) && p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
+    }();
+    return hay;
 }
 
 void TstCuentacorrienteDb::crear(const QString& archivo, bool demo) {
@@ -529,6 +582,182 @@ void TstCuentacorrienteDb::rechazaSinTocarNada() {
     QMap<QString, QByteArray> despues = archivos();
     // Looking DSNBrenal up, unixODBC leaves an empty odbc.ini where there was none.
     if (!previo.contains(odbcIni()) && despues.value(odbcIni()) == QByteArray()) despues.remove(odbcIni());
+    QCOMPARE(despues, previo);
+}
+
+void TstCuentacorrienteDb::backupCortadoNoDejaLaCopia_data() {
+    QTest::addColumn<bool>("muere"); // killed by the system at the limit, or only refused the write
+    QTest::newRow("el programa muere a mitad de la copia") << true;
+    QTest::newRow("la escritura falla a mitad de la copia") << false;
+}
+
+// A copy cut short never stands under the name asked for. The program runs with a limit on the size
+// of the files it writes, well under the database's: past it the system kills it (SIGXFSZ), as a
+// power cut or a kill would, or, with that signal ignored, refuses the write as a full disk does.
+// Killed, it leaves at most its partial copy under a name that says so; failing, it leaves nothing.
+void TstCuentacorrienteDb::backupCortadoNoDejaLaCopia() {
+    QFETCH(bool, muere);
+    const QString archivo = ruta(QStringLiteral("tienda.db"));
+    crear(archivo, true);
+    constexpr rlim_t limite = 64 * 1024;
+    QVERIFY(QFileInfo(archivo).size() > 2 * qint64(limite));
+    const QString carpeta = ruta(QStringLiteral("copias"));
+    QVERIFY(QDir().mkpath(carpeta));
+
+    const Resultado r = correr(
+        {QStringLiteral("backup"), QStringLiteral("copias/copia.db"), QStringLiteral("--file"), archivo},
+        [muere] {
+            const rlimit tamano{limite, limite}, nucleo{0, 0};
+            setrlimit(RLIMIT_FSIZE, &tamano);
+            setrlimit(RLIMIT_CORE, &nucleo);
+            signal(SIGXFSZ, muere ? SIG_DFL : SIG_IGN);
+        });
+    const QFileInfoList quedan = QDir(carpeta).entryInfoList(QDir::Files | QDir::Hidden);
+    QStringList nombres;
+    for (const QFileInfo& f : quedan)
+        nombres << f.fileName() + QLatin1Char('=') + QString::number(f.size());
+    if (muere) {
+        QVERIFY2(r.murio, qPrintable(r.salida + r.errores));
+        // Cut in the middle of the copy: what it had written stays, under its own name.
+        QVERIFY2(quedan.size() >= 1 && quedan.size() <= 2, qPrintable(nombres.join(u' ')));
+        for (const QFileInfo& f : quedan)
+            QVERIFY2(f.fileName().startsWith(QLatin1String("copia.db.incompleta-")),
+                     qPrintable(nombres.join(u' ')));
+        QVERIFY2(quedan.first().size() > 0, qPrintable(nombres.join(u' ')));
+    } else {
+        QCOMPARE(r.estado, 1);
+        QVERIFY2(r.errores.contains(ruta(QStringLiteral("copias/copia.db"))), qPrintable(r.errores));
+        QVERIFY2(quedan.isEmpty(), qPrintable(nombres.join(u' ')));
+    }
+    QVERIFY(!QFileInfo::exists(ruta(QStringLiteral("copias/copia.db"))));
+
+    // Done again without the limit, the copy is whole and nothing partial is added.
+    const Resultado otra = correr(
+        {QStringLiteral("backup"), QStringLiteral("copias/copia.db"), QStringLiteral("--file"), archivo});
+    QVERIFY2(otra.estado == 0, qPrintable(otra.errores));
+    QCOMPARE(QDir(carpeta).entryList(QDir::Files | QDir::Hidden).size(), quedan.size() + 1);
+    Sqlite copia(ruta(QStringLiteral("copias/copia.db")));
+    QCOMPARE(copia.valor(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+    QCOMPARE(copia.filasPorTabla(), Sqlite(archivo).filasPorTabla());
+}
+
+void TstCuentacorrienteDb::initDejaLaBaseEnSuArchivo_data() {
+    QTest::addColumn<bool>("demo");
+    QTest::addColumn<bool>("casiLleno"); // on a disk with room for the -wal file, not for the database too
+    for (const bool demo : {false, true})
+        for (const bool casiLleno : {false, true})
+            QTest::addRow("%s, %s", demo ? "con datos de ejemplo" : "vacía",
+                          casiLleno ? "disco casi lleno" : "disco con espacio")
+                << demo << casiLleno;
+}
+
+// Once init says the database is made, its file alone is the whole database: copied without the -wal
+// file, it holds every row. On a disk that takes what the scripts write (into the -wal file) but not
+// that moved into the database, init fails saying so and leaves neither database nor data source.
+void TstCuentacorrienteDb::initDejaLaBaseEnSuArchivo() {
+    QFETCH(bool, demo);
+    QFETCH(bool, casiLleno);
+    if (casiLleno && !hayMontajesPropios())
+        QSKIP("this machine lets no user mount a small disk of their own (unshare -Urm)");
+    const QString referencia = ruta(QStringLiteral("referencia/brenal.db"));
+    QVERIFY(QDir().mkpath(ruta(QStringLiteral("referencia"))));
+    crear(referencia, demo);
+    const QStringList filas = Sqlite(referencia).filasPorTabla();
+    QFile::remove(odbcIni());
+
+    const QString disco = ruta(QStringLiteral("disco"));
+    const QString archivo = disco + QStringLiteral("/brenal.db");
+    QVERIFY(QDir().mkpath(disco));
+    QStringList args{QStringLiteral("init"), QStringLiteral("--file"), archivo};
+    if (demo) args << QStringLiteral("--demo");
+    if (!casiLleno) {
+        const Resultado r = correr(args);
+        QVERIFY2(r.estado == 0, qPrintable(r.errores));
+        const QFileInfo registro(archivo + QStringLiteral("-wal"));
+        QVERIFY(!registro.exists() || registro.size() == 0);
+        const QString solo = ruta(QStringLiteral("solo/brenal.db"));
+        QVERIFY(QDir().mkpath(ruta(QStringLiteral("solo"))) && QFile::copy(archivo, solo));
+        Sqlite copia(solo);
+        QCOMPARE(copia.valor(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+        QCOMPARE(copia.filasPorTabla(), filas);
+        return;
+    }
+    // Room for the -wal file (the database's pages and a header for each), its index and half the
+    // database: what the checkpoint writes into the database runs out of room. What the small disk
+    // holds at the end is copied out before it goes.
+    const qint64 tamano = QFileInfo(referencia).size();
+    const qint64 kb = (tamano + tamano / 4096 * 24 + 32 + 32768 + tamano / 2 + 4095) / 4096 * 4;
+    const QString quedo = ruta(QStringLiteral("quedo"));
+    QVERIFY(QDir().mkpath(quedo));
+    const Resultado r =
+        correrConMontajes(QStringLiteral("mount -t tmpfs -o size=%1k tmpfs '%2'").arg(kb).arg(disco), args,
+                          QStringLiteral("cp -a '%1/.' '%2/'").arg(disco, quedo));
+    QCOMPARE(r.estado, 1);
+    QVERIFY2(r.errores.contains(archivo) && r.errores.contains(QLatin1String("espacio")),
+             qPrintable(r.errores));
+    QCOMPARE(QDir(quedo).entryList(QDir::Files | QDir::Hidden), QStringList());
+    QVERIFY(seccionIni(odbcIni(), QStringLiteral("DSNBrenal")).isEmpty());
+}
+
+void TstCuentacorrienteDb::medioDeSoloLectura_data() {
+    QTest::addColumn<QString>("soloLectura"); // what is mounted read-only, under the case's folder
+    QTest::addColumn<QStringList>("args");    // @ stands for the case's folder
+    QTest::addColumn<int>("estado");
+    QTest::addColumn<QString>("dice"); // in what the program writes
+    const auto fila = [](const char* nombre, const char* soloLectura, const QStringList& args, int estado,
+                         const char* dice) {
+        QTest::newRow(nombre) << QString::fromUtf8(soloLectura) << args << estado << QString::fromUtf8(dice);
+    };
+    const QStringList initTienda{"init", "--file", "@/tienda/brenal.db"};
+    fila("status, carpeta", "tienda", {"status"}, 1, "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("status, archivo", "tienda/brenal.db", {"status"}, 0,
+         "Aviso: la base de datos está en un medio de solo lectura (el archivo no admite escritura)");
+    fila("backup desde una carpeta", "tienda", {"backup", "@/copia.db"}, 1,
+         "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("backup desde un archivo", "tienda/brenal.db", {"backup", "@/copia.db"}, 0,
+         "Copia de @/tienda/brenal.db");
+    fila("backup a una carpeta", "copias", {"backup", "@/copias/copia.db"}, 1,
+         "La carpeta @/copias no admite escritura");
+    fila("init sobre la base, carpeta", "tienda", initTienda, 1,
+         "en un medio de solo lectura (la carpeta @/tienda no");
+    fila("init sobre la base, archivo", "tienda/brenal.db", initTienda, 1,
+         "en un medio de solo lectura (el archivo no admite escritura)");
+    fila("init de una base nueva", "copias", {"init", "--file", "@/copias/nueva/brenal.db"}, 1,
+         "La carpeta @/copias no admite escritura");
+}
+
+// A store's database on read-only media is said to be so, never "not a database": what can be read is
+// read (with a warning that the application could not save), what cannot is refused naming the file
+// and what is read-only, and nothing changes: no database, data source or copy.
+void TstCuentacorrienteDb::medioDeSoloLectura() {
+    QFETCH(QString, soloLectura);
+    QFETCH(QStringList, args);
+    QFETCH(int, estado);
+    QFETCH(QString, dice);
+    if (!hayMontajesPropios())
+        QSKIP("this machine lets no user mount read-only media of their own (unshare -Urm)");
+    QVERIFY(QDir().mkpath(ruta(QStringLiteral("tienda"))) && QDir().mkpath(ruta(QStringLiteral("copias"))));
+    crear(ruta(QStringLiteral("tienda/brenal.db")), true);
+    const auto conCarpeta = [this](QString texto) { return texto.replace(u'@', dir_->path()); };
+    for (QString& a : args)
+        a = conCarpeta(a);
+    const QMap<QString, QByteArray> previo = archivos();
+
+    const QString medio = ruta(soloLectura);
+    const Resultado r = correrConMontajes(
+        QStringLiteral("mount --bind '%1' '%1'\nmount -o remount,bind,ro '%1'").arg(medio), args);
+    QCOMPARE(r.estado, estado);
+    const QString escrito = r.salida + r.errores;
+    QVERIFY2(escrito.contains(conCarpeta(dice)), qPrintable(escrito));
+    QVERIFY2(!escrito.contains(QLatin1String("no es una base de datos")), qPrintable(escrito));
+    QMap<QString, QByteArray> despues = archivos();
+    if (estado == 0 && args.first() == QLatin1String("backup")) {
+        const bool copiada = despues.remove(args.at(1)) == 1;
+        QVERIFY(copiada);
+        QCOMPARE(Sqlite(args.at(1)).filasPorTabla(),
+                 Sqlite(ruta(QStringLiteral("tienda/brenal.db"))).filasPorTabla());
+    }
+    QCOMPARE(despues.keys(), previo.keys());
     QCOMPARE(despues, previo);
 }
 

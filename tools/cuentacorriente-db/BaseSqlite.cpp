@@ -1,6 +1,9 @@
 #include "BaseSqlite.h"
 
+#include "SoloLectura.h"
+
 #include <QFileInfo>
+#include <QUrl>
 #include <sqlite3.h>
 
 namespace basedatos {
@@ -42,24 +45,53 @@ qint64 BaseSqlite::entero(const QString& consulta) {
     return valor;
 }
 
+namespace {
+
+bool tieneVersionEsquema(BaseSqlite& base) {
+    return base.entero(QStringLiteral("SELECT count(*) FROM sqlite_master "
+                                      "WHERE type = 'table' AND name = 'VersionEsquema'")) > 0;
+}
+
+// Whether a database SQLite cannot open where it is would be ours: read as immutable, which takes no
+// lock and needs no -shm file, only to look at its tables.
+bool esNuestraSinAbrirla(const QString& archivo) {
+    try {
+        BaseSqlite base(QUrl::fromLocalFile(archivo).toString(QUrl::FullyEncoded) +
+                            QStringLiteral("?immutable=1"),
+                        SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+        return tieneVersionEsquema(base);
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+} // namespace
+
 ClaseDeArchivo clasificarArchivo(const QString& archivo, QString* motivo) {
     const QFileInfo info(archivo);
     if (!info.exists()) return ClaseDeArchivo::NoExiste;
-    auto otro = [&](const QString& texto) {
+    auto clase = [&](ClaseDeArchivo c, const QString& texto) {
         if (motivo) *motivo = texto;
-        return ClaseDeArchivo::Otro;
+        return c;
     };
-    if (!info.isFile()) return otro(QStringLiteral("no es un archivo"));
+    if (!info.isFile()) return clase(ClaseDeArchivo::Otro, QStringLiteral("no es un archivo"));
     try {
         // Read-only, so a file that is not ours is never written to.
         BaseSqlite base(archivo, SQLITE_OPEN_READONLY);
-        if (base.entero(QStringLiteral("SELECT count(*) FROM sqlite_master "
-                                       "WHERE type = 'table' AND name = 'VersionEsquema'")) == 0)
-            return otro(QStringLiteral("no tiene la tabla VersionEsquema"));
+        if (!tieneVersionEsquema(base))
+            return clase(ClaseDeArchivo::Otro, QStringLiteral("no tiene la tabla VersionEsquema"));
         return ClaseDeArchivo::BaseDelSistema;
     } catch (const Error& e) {
-        return otro(e.texto());
+        // On read-only media SQLite cannot open a database in WAL mode: that is what to say of it.
+        if (const QString soloLectura = motivoDeSoloLectura(archivo);
+            !soloLectura.isEmpty() && esNuestraSinAbrirla(archivo))
+            return clase(ClaseDeArchivo::BaseEnSoloLectura, soloLectura);
+        return clase(ClaseDeArchivo::Otro, e.texto());
     }
+}
+
+QString enSoloLectura(const QString& motivo) {
+    return QStringLiteral("en un medio de solo lectura (%1)").arg(motivo);
 }
 
 void exigirBaseDelSistema(const QString& archivo) {
@@ -69,6 +101,12 @@ void exigirBaseDelSistema(const QString& archivo) {
         return;
     case ClaseDeArchivo::NoExiste:
         throw Error(QStringLiteral("La base de datos %1 no existe.").arg(archivo));
+    case ClaseDeArchivo::BaseEnSoloLectura:
+        throw Error(
+            QStringLiteral("La base de datos %1 está %2, donde no se puede abrir: una base en modo WAL "
+                           "necesita escribir junto a ella sus archivos -wal y -shm. Cópiela, con esos "
+                           "archivos si los tiene, a una carpeta con escritura.")
+                .arg(archivo, enSoloLectura(motivo)));
     case ClaseDeArchivo::Otro:
         throw Error(
             QStringLiteral("%1 no es una base de datos de cuenta corriente (%2).").arg(archivo, motivo));

@@ -37,13 +37,19 @@ private:
     sqlite3* db_ = nullptr;
 };
 
-enum class ClaseDeArchivo { NoExiste, BaseDelSistema, Otro };
+// BaseEnSoloLectura: one of our databases on read-only media, where SQLite cannot open it (a database
+// in WAL mode needs to make its -wal and -shm files beside it). One it can open there is BaseDelSistema.
+enum class ClaseDeArchivo { NoExiste, BaseDelSistema, BaseEnSoloLectura, Otro };
 
 // Looks at a file without changing it: one of our databases holds the table VersionEsquema.
-// For Otro, `motivo` says why it is not one.
+// `motivo` says, for Otro, why it is not one, and for BaseEnSoloLectura what is read-only.
 ClaseDeArchivo clasificarArchivo(const QString& archivo, QString* motivo = nullptr);
 
-// Refuses (Error) a file that does not exist or is not one of our databases.
+// "en un medio de solo lectura (motivo)", for the messages that say so of a database.
+QString enSoloLectura(const QString& motivo);
+
+// Refuses (Error) a file that does not exist, is not one of our databases or cannot be opened where
+// it is because it is read-only.
 void exigirBaseDelSistema(const QString& archivo);
 
 } // namespace basedatos

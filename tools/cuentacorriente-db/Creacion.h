@@ -19,8 +19,10 @@ QString archivoPredeterminado();
 QList<Script> scriptsDelEsquema(bool conDemo);
 
 // Makes `archivo` (and its folder) as a WAL database holding what the scripts create, all in one
-// transaction. Any failure removes the half-made file and is an Error naming the script.
-// The caller has made sure the file does not exist.
+// transaction, then moves it all from the -wal file into `archivo` and checks it there, so that the
+// file alone is the whole database. Any failure removes the half-made file and is an Error naming the
+// script, or saying the database did not end up whole in its file. A folder that admits no writing
+// is refused first. The caller has made sure the file does not exist.
 void crearBase(const QString& archivo, const QList<Script>& scripts);
 
 } // namespace basedatos

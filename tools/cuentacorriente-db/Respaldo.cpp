@@ -1,9 +1,11 @@
 #include "Respaldo.h"
 
 #include "BaseSqlite.h"
+#include "SoloLectura.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <sqlite3.h>
 
 namespace basedatos {
@@ -32,6 +34,24 @@ int copiar(BaseSqlite& fuente, BaseSqlite& copia) {
     return paginas;
 }
 
+// A name beside `destino` that no file has: the copy is written there and takes its own name only
+// when complete, so a copy cut short (the program killed, the disk full) never passes for a whole one.
+QString nombreProvisional(const QString& destino) {
+    static const QString letras = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
+    QString nombre;
+    do {
+        nombre = destino + QStringLiteral(".incompleta-");
+        for (int i = 0; i < 6; ++i)
+            nombre += letras.at(QRandomGenerator::global()->bounded(int(letras.size())));
+    } while (QFileInfo(nombre).exists() || QFileInfo(nombre).isSymLink());
+    return nombre;
+}
+
+void borrarConSusArchivos(const QString& archivo) {
+    for (const char* sufijo : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(archivo + QLatin1String(sufijo));
+}
+
 } // namespace
 
 Respaldo respaldar(const QString& origen, const QString& destino) {
@@ -39,15 +59,26 @@ Respaldo respaldar(const QString& origen, const QString& destino) {
     if (info.exists() || info.isSymLink())
         throw Error(QStringLiteral("%1 ya existe; la copia no reemplaza ningún archivo.").arg(destino));
     exigirBaseDelSistema(origen);
+    if (const QString carpeta = carpetaExistente(destino); !admiteEscritura(carpeta))
+        throw Error(
+            QStringLiteral("La carpeta %1 no admite escritura (¿un medio de solo lectura?): la copia no "
+                           "se puede guardar allí.")
+                .arg(carpeta));
+    const QString provisional = nombreProvisional(destino);
     Respaldo hecho;
     try {
-        BaseSqlite fuente(origen, SQLITE_OPEN_READONLY);
-        sqlite3_busy_timeout(fuente.db(), 5000);
-        BaseSqlite copia(destino, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-        hecho.paginas = copiar(fuente, copia);
+        {
+            BaseSqlite fuente(origen, SQLITE_OPEN_READONLY);
+            sqlite3_busy_timeout(fuente.db(), 5000);
+            BaseSqlite copia(provisional, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+            hecho.paginas = copiar(fuente, copia);
+        } // closed: the copy is on disk and its journal gone
+        // Qt renames without replacing: a file that took the name meanwhile stays.
+        if (!QFile::rename(provisional, destino))
+            throw Error(QStringLiteral("no se pudo dar a la copia su nombre (¿apareció un archivo %1?)")
+                            .arg(destino));
     } catch (const Error& e) {
-        for (const char* sufijo : {"", "-wal", "-shm", "-journal"})
-            QFile::remove(destino + QLatin1String(sufijo));
+        borrarConSusArchivos(provisional);
         throw Error(QStringLiteral("No se pudo copiar %1 en %2: %3").arg(origen, destino, e.texto()));
     }
     hecho.bytes = QFileInfo(destino).size();

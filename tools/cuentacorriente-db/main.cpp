@@ -13,6 +13,7 @@
 #include "Estado.h"
 #include "OrigenDatos.h"
 #include "Respaldo.h"
+#include "SoloLectura.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -99,11 +100,18 @@ int init(const Argumentos& a, QTextStream& salida) {
         salida << "Base de datos creada: " << archivo << (a.demo ? " (con los datos de ejemplo)\n" : "\n");
         break;
     case ClaseDeArchivo::BaseDelSistema:
+    case ClaseDeArchivo::BaseEnSoloLectura:
         // Sample rows never mix with a store's own.
         if (a.demo)
             throw Error(QStringLiteral("La base de datos %1 ya existe; los datos de ejemplo solo se cargan "
                                        "en una base nueva.")
                             .arg(archivo));
+        // The application could not save a thing in it.
+        if (const QString soloLectura = motivoDeSoloLectura(archivo); !soloLectura.isEmpty())
+            throw Error(
+                QStringLiteral("La base de datos %1 está %2: la aplicación no podría guardar en ella. "
+                               "No se registró el origen de datos.")
+                    .arg(archivo, enSoloLectura(soloLectura)));
         salida << "La base de datos " << archivo << " ya existe; su contenido queda como estaba.\n";
         break;
     case ClaseDeArchivo::Otro:
@@ -129,10 +137,20 @@ int status(const Argumentos& a, QTextStream& salida) {
         throw Error(QStringLiteral("El origen de datos %1 apunta a %2, que no es una base de datos de cuenta "
                                    "corriente (%3).")
                         .arg(nombreOrigen, archivo, motivo));
+    case ClaseDeArchivo::BaseEnSoloLectura:
+        throw Error(
+            QStringLiteral("El origen de datos %1 apunta a la base de datos %2, que está %3, donde no se "
+                           "puede abrir: una base en modo WAL necesita escribir junto a ella sus "
+                           "archivos -wal y -shm. Cópiela a una carpeta con escritura y regístrela allí "
+                           "con: cuentacorriente-db init --file RUTA")
+                .arg(nombreOrigen, archivo, enSoloLectura(motivo)));
     case ClaseDeArchivo::BaseDelSistema:
         break;
     }
     escribirEstado(archivo, leerEstado(archivo), salida);
+    if (const QString soloLectura = motivoDeSoloLectura(archivo); !soloLectura.isEmpty())
+        salida << "\nAviso: la base de datos está " << enSoloLectura(soloLectura)
+               << ": se puede consultar, pero la aplicación no podrá guardar en ella.\n";
     // The schema's guards hold on any connection, but a data source registered by hand may lack what
     // init writes; say so, and how to put it right without touching the database.
     if (!origen.conFKSupport())
