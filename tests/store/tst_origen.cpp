@@ -8,25 +8,9 @@
 #include "store/Recordset.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QtTest>
 
 using namespace store;
-
-namespace {
-
-// Every file and folder under a folder.
-QStringList contenido(const QString& carpeta) {
-    QStringList todo;
-    for (QDirIterator it(carpeta, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
-                         QDirIterator::Subdirectories);
-         it.hasNext();)
-        todo << it.next();
-    todo.sort();
-    return todo;
-}
-
-} // namespace
 
 class TstOrigen : public QObject {
     Q_OBJECT
@@ -56,7 +40,7 @@ void TstOrigen::archivoQueNoExiste() {
     base.reescribirOrigen({QStringLiteral("Driver=") +
                                (porNombre ? QStringLiteral("SQLite3") : BaseDePrueba::controladorSqlite()),
                            QStringLiteral("Database=") + baseDatos, QStringLiteral("Timeout=5000")});
-    const QStringList antes = contenido(base.directorio());
+    const QStringList antes = BaseDePrueba::contenido(base.directorio());
 
     Conexion cn(QStringLiteral("DSN=DSNBrenal"));
     try {
@@ -68,7 +52,7 @@ void TstOrigen::archivoQueNoExiste() {
                  qPrintable(f.descripcion()));
     }
     QCOMPARE(cn.State(), int(adStateClosed));
-    QCOMPARE(contenido(base.directorio()), antes);
+    QCOMPARE(BaseDePrueba::contenido(base.directorio()), antes);
 }
 
 void TstOrigen::origenQueNoNombraUnArchivo_data() {
@@ -93,7 +77,7 @@ void TstOrigen::origenQueNoNombraUnArchivo() {
     QFETCH(QString, resultado);
     BaseDePrueba base;
     base.reescribirOrigen(claves, origen);
-    const QStringList antes = contenido(base.directorio());
+    const QStringList antes = BaseDePrueba::contenido(base.directorio());
 
     Conexion cn(QStringLiteral("DSN=") + origen);
     if (resultado == QLatin1String("abre")) {
@@ -110,7 +94,7 @@ void TstOrigen::origenQueNoNombraUnArchivo() {
         QCOMPARE(f.numero(), FalloConexion);
         QVERIFY2(f.descripcion().contains(resultado), qPrintable(f.descripcion()));
     }
-    QCOMPARE(contenido(base.directorio()), antes);
+    QCOMPARE(BaseDePrueba::contenido(base.directorio()), antes);
 }
 
 QTEST_GUILESS_MAIN(TstOrigen)

@@ -3,6 +3,7 @@
 #include "EsquemaDelProyecto.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QTextStream>
 #include <sqlite3.h>
@@ -132,4 +133,14 @@ QString BaseDePrueba::valor(const QString& consulta) const {
         r = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
     sqlite3_finalize(st);
     return r;
+}
+
+QStringList BaseDePrueba::contenido(const QString& carpeta) {
+    QStringList todo;
+    for (QDirIterator it(carpeta, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+                         QDirIterator::Subdirectories);
+         it.hasNext();)
+        todo << it.next();
+    todo.sort();
+    return todo;
 }

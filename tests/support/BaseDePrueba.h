@@ -34,6 +34,8 @@ public:
     QString valor(const QString& consulta) const;
 
     static QString rutaEsquema();
+    // Every file and folder under a folder, sorted: what a step left behind.
+    static QStringList contenido(const QString& carpeta);
     // The SQLite3 ODBC driver's library, as DSNBrenal names it.
     static QString controladorSqlite();
     // Writes odbc.ini anew with one data source, DSNBrenal or another, of these lines ("Clave=valor"

@@ -6,23 +6,7 @@
 #include "shell/principal/Main.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QtTest>
-
-namespace {
-
-// Every file and folder under a folder.
-QStringList contenido(const QString& carpeta) {
-    QStringList todo;
-    for (QDirIterator it(carpeta, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
-                         QDirIterator::Subdirectories);
-         it.hasNext();)
-        todo << it.next();
-    todo.sort();
-    return todo;
-}
-
-} // namespace
 
 class TstSinArchivo : public QObject {
     Q_OBJECT
@@ -48,7 +32,7 @@ void TstSinArchivo::archivoQueNoExisteTerminaNombrandolo() {
     base.reescribirOrigen({QStringLiteral("Driver=") + BaseDePrueba::controladorSqlite(),
                            QStringLiteral("Database=") + archivo, QStringLiteral("Timeout=5000"),
                            QStringLiteral("FKSupport=1")});
-    const QStringList antes = contenido(base.directorio());
+    const QStringList antes = BaseDePrueba::contenido(base.directorio());
 
     EntornoDePantallas entorno;
     entorno.esperaFallos();
@@ -59,7 +43,7 @@ void TstSinArchivo::archivoQueNoExisteTerminaNombrandolo() {
     QVERIFY2(texto.contains(archivo), qPrintable(texto));
     QVERIFY2(texto.endsWith(QLatin1String("DSNBrenal con: cuentacorriente-db init")), qPrintable(texto));
     QCOMPARE(Common::DE().CN.State(), 0);
-    QCOMPARE(contenido(base.directorio()), antes);
+    QCOMPARE(BaseDePrueba::contenido(base.directorio()), antes);
 }
 
 QTEST_MAIN(TstSinArchivo)
