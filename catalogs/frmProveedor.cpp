@@ -5,8 +5,6 @@
 #include "shell/controles/EnlaceDatos.h"
 #include "shell/dialogos/Dialogos.h"
 
-#include <exception>
-
 using namespace shell;
 
 namespace catalogos {
@@ -54,13 +52,7 @@ void frmProveedor::Form_Load() {
 // The whole bar runs under one handler: any failure shows the driver's text and leaves the screen as
 // it was, in its mode, with the row unsaved.
 void frmProveedor::cmdBoton_Click(int Index) {
-    try {
-        Boton(cmdBoton[Index]->text());
-    } catch (const store::Fallo& fallo) {
-        Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
-    } catch (const std::exception& e) {
-        Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
-    }
+    ConManejadorDeBarra([&] { Boton(cmdBoton[Index]->text()); });
 }
 
 void frmProveedor::Boton(const QString& boton) {

@@ -3,6 +3,8 @@
 #include "shell/common/Common.h"
 #include "shell/dialogos/Dialogos.h"
 
+#include <exception>
+
 namespace shell {
 
 namespace {
@@ -47,6 +49,16 @@ void PantallaRegistro::ModoConsulta() {
     for (QPushButton* b : cmdBoton)
         b->setVisible(b != cmdBoton[guardar_] && b != cmdBoton[cancelar_]);
     HabilitarEdicion(false);
+}
+
+void PantallaRegistro::ConManejadorDeBarra(const std::function<void()>& paso) {
+    try {
+        paso();
+    } catch (const store::Fallo& fallo) {
+        Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
+    } catch (const std::exception& e) {
+        Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
+    }
 }
 
 // "Aceptar" undoes the open transaction (the counter first) and lets the screen close; any other

@@ -2,6 +2,8 @@
 
 #include "shell/marco/Marco.h"
 
+#include <functional>
+
 namespace shell {
 
 // One button of a record screen's bar: its index in cmdBoton, its caption and where it stands.
@@ -37,6 +39,10 @@ public:
 protected:
     void ModoEdicion(const QString& estado);
     void ModoConsulta();
+    // The bar's error handler of the screens that have one: a step that fails shows the driver's text
+    // through MostrarMensaje with the screen's title, and the screen stays in its mode, its row as it
+    // was (a refused "Guardar" leaves the edit pending for a second try or "Cancelar").
+    void ConManejadorDeBarra(const std::function<void()>& paso);
     void Form_QueryUnload(bool& cancelar) override;
 
 private:
