@@ -1,11 +1,14 @@
 #include "credit/Credito.h"
 
+#include "credit/frmFiador.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
 
 namespace credito {
 
 void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmFiador"),
+                                      [] { Common::Pantalla<frmFiador>().Show(); });
 }
 
 } // namespace credito

@@ -48,7 +48,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("pantalla");
     const QList<std::pair<const char*, const char*>> filas = {{"Clientes", ""},
-                                                              {"Fiadores", ""},
+                                                              {"Fiadores", "frmFiador"},
                                                               {"Proveedores", "frmProveedor"},
                                                               {"Bancos", "frmBanco"},
                                                               {"Artículos", "frmArticulo"},
