@@ -139,10 +139,14 @@ void TstFrmFiador::nuevoFiador() {
     QFETCH(QString, esperado);
     auto& p = pantalla();
     QVERIFY(p.txtNombres->text().isEmpty()); // opens empty
+    pulsar("Agregar");                       // a first try, with another date in the picker, cancelled
+    escribir(p.dpFecha, QStringLiteral("14051980"));
+    QCOMPARE(p.dpFecha->Value(), QDate(1980, 5, 14));
+    pulsar("Cancelar");
     Common::IDSeleccionado = 0;
     pulsar("Agregar");
     QCOMPARE(p.lblEstado->text(), QStringLiteral("Agregar nuevo registro"));
-    QCOMPARE(p.dpFecha->Value(), kHoy);
+    QCOMPARE(p.dpFecha->Value(), kHoy); // set to now again
     QCOMPARE(QApplication::focusWidget(), p.txtNombres);
     teclear(p.txtNombres, QStringLiteral("rosa"));
     QTest::keyClick(p.txtNombres, Qt::Key_Return); // Enter moves on
@@ -190,7 +194,7 @@ void TstFrmFiador::buscarYGuardar_data() {
     QTest::addColumn<bool>("antesOtro");
     QTest::addColumn<QString>("guardado"); // FechaNacimiento CasaTiempo TrabajoTiempo
     QTest::newRow("recién abierta: hoy y cajas vacías") << false << "2026-03-10 0 0";
-    QTest::newRow("tras agregar otro: lo que quedó en las cajas") << true << "2026-03-10 14 40";
+    QTest::newRow("tras agregar otro: lo que quedó en el selector y las cajas") << true << "1985-01-02 14 40";
 }
 
 void TstFrmFiador::buscarYGuardar() {
@@ -200,19 +204,22 @@ void TstFrmFiador::buscarYGuardar() {
     if (antesOtro) {
         pulsar("Agregar");
         teclear(p.txtNombres, QStringLiteral("luis"));
+        escribir(p.dpFecha, QStringLiteral("02011985"));
         escribir(p.txtCasaTiempoA, "1");
         escribir(p.txtCasaTiempoM, "2");
         escribir(p.txtTrabajoTiempoA, "3");
         escribir(p.txtTrabajoTiempoM, "4");
         pulsar("Guardar");
+        QCOMPARE(fiador("LUIS", "FechaNacimiento || ' ' || CasaTiempo || ' ' || TrabajoTiempo"),
+                 QStringLiteral("1985-01-02 14 40"));
     }
     buscar(QStringLiteral("MARIO"));
     QCOMPARE(p.txtApellidos->text(), QStringLiteral("LÓPEZ"));
     QCOMPARE(p.txtCedulaExtendida->text(), QStringLiteral("Capital"));
     QCOMPARE(p.dacEstadoCivil->Text(), QStringLiteral("Casado(a)"));
     QCOMPARE(p.txtCasaTiempoA->text() + " " + p.txtCasaTiempoM->text(),
-             antesOtro ? QStringLiteral("1 2") : QStringLiteral(" ")); // not 2 and 6
-    QCOMPARE(p.dpFecha->Value(), kHoy);
+             antesOtro ? QStringLiteral("1 2") : QStringLiteral(" "));  // not 2 and 6
+    QCOMPARE(p.dpFecha->Value(), antesOtro ? QDate(1985, 1, 2) : kHoy); // not 14/05/1970
 
     Common::IDSeleccionado = 0;
     pulsar("Modificar");
