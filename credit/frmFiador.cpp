@@ -25,7 +25,7 @@ QString Meses(const CajaTexto* anios, const CajaTexto* meses) {
 } // namespace
 
 frmFiador::frmFiador()
-    : PantallaRegistro(QStringLiteral("Fiadores"), 10920, 5500) {
+    : PantallaRegistro(QStringLiteral("Fiadores"), 11160, 5250) {
     setObjectName(QStringLiteral("frmFiador"));
     adoFiador = new store::Adodc(this);
     adoFiador->setObjectName(QStringLiteral("adoFiador"));
@@ -57,9 +57,9 @@ frmFiador::frmFiador()
 
     encabezado(QStringLiteral("Datos particulares"), 900);
     txtDireccion = caja(QStringLiteral("txtDireccion"), QStringLiteral("Direccion:"), 120, 800, 960, 1440,
-                        3615, QStringLiteral("Direccion"));
-    txtTelefonos = caja(QStringLiteral("txtTelefonos"), QStringLiteral("Telefonos:"), 4695, 800, 5535, 1440,
-                        1335, QStringLiteral("Telefonos"));
+                        3255, QStringLiteral("Direccion"));
+    txtTelefonos = caja(QStringLiteral("txtTelefonos"), QStringLiteral("Telefonos:"), 4335, 800, 5175, 1440,
+                        1695, QStringLiteral("Telefonos"));
     etiqueta(QStringLiteral("Casa:"), 6990, 1200, 800);
     chkCasaPropia = campo<QCheckBox>(QStringLiteral("chkCasaPropia"), 6990, 1440, 760);
     chkCasaPropia->setText(QStringLiteral("Propia"));
@@ -75,9 +75,9 @@ frmFiador::frmFiador()
     txtTrabajoNombre = caja(QStringLiteral("txtTrabajoNombre"), QStringLiteral("Trabajo:"), 120, 800, 960,
                             2160, 6030, QStringLiteral("TrabajoNombre"));
     txtTrabajoDireccion = caja(QStringLiteral("txtTrabajoDireccion"), QStringLiteral("Dirección:"), 120, 800,
-                               960, 2520, 3615, QStringLiteral("TrabajoDireccion"));
-    txtTrabajoTelefonos = caja(QStringLiteral("txtTrabajoTelefonos"), QStringLiteral("Telefonos:"), 4695, 800,
-                               5535, 2520, 1335, QStringLiteral("TrabajoTelefonos"));
+                               960, 2520, 3255, QStringLiteral("TrabajoDireccion"));
+    txtTrabajoTelefonos = caja(QStringLiteral("txtTrabajoTelefonos"), QStringLiteral("Telefonos:"), 4335, 800,
+                               5175, 2520, 1695, QStringLiteral("TrabajoTelefonos"));
     txtTrabajoFax = caja(QStringLiteral("txtTrabajoFax"), QStringLiteral("FAX:"), 6990, 500, 7550, 2520, 1500,
                          QStringLiteral("TrabajoFax"));
     txtTrabajoPuesto = caja(QStringLiteral("txtTrabajoPuesto"), QStringLiteral("Puesto:"), 120, 800, 960,
@@ -125,7 +125,7 @@ CajaTexto* frmFiador::tiempo(const QString& nombre, const QString& unidad, doubl
     auto* c = campo<CajaTexto>(nombre, left, top, 360);
     c->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     SoloDigitos(c);
-    etiqueta(unidad, left + 400, top + 30, 440);
+    etiqueta(unidad, left + 400, top + 30, 560);
     return c;
 }
 

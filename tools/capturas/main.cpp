@@ -8,6 +8,7 @@
 #include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
 #include "catalogs/frmProveedor.h"
+#include "credit/frmFiador.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -156,6 +157,13 @@ int main(int argc, char* argv[]) {
     pendientes << kElegir; // "Buscar" picks the first article
     QTest::mouseClick(articulo.cmdBoton[0], Qt::LeftButton);
     dosModos(articulo, QStringLiteral("frmArticulo"), 1); // "Modificar"
+
+    auto& fiador = Common::Pantalla<credito::frmFiador>();
+    fiador.Show();
+    fiador.move(120, 180);
+    pendientes << kElegir; // "Buscar" picks the first guarantor
+    QTest::mouseClick(fiador.cmdBoton[0], Qt::LeftButton);
+    dosModos(fiador, QStringLiteral("frmFiador"), 2); // "Modificar"
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));
