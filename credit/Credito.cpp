@@ -1,11 +1,14 @@
 #include "credit/Credito.h"
 
+#include "credit/frmCliente.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
 
 namespace credito {
 
 void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmCliente"),
+                                      [] { Common::Pantalla<frmCliente>().Show(); });
 }
 
 } // namespace credito
