@@ -45,16 +45,18 @@ frmCliente::frmCliente()
     etiqueta(QStringLiteral("Extendida en:"), 120, 870, 1200);
     txtCedulaExtendida = campo<CajaTexto>(QStringLiteral("txtCedulaExtendida"), 1320, 840, 1860);
     etiqueta(QStringLiteral("Codigo:"), 3300, 870, 700);
-    txtCodigoLetra = campo<CajaTexto>(QStringLiteral("txtCodigoLetra"), 3900, 840, 360);
+    txtCodigoLetra = campo<CajaTexto>(QStringLiteral("txtCodigoLetra"), 3960, 840, 360);
     txtCodigoLetra->setMaxLength(1);
-    txtCodigoNumero = campo<CajaTexto>(QStringLiteral("txtCodigoNumero"), 4320, 840, 1020);
+    txtCodigoNumero = campo<CajaTexto>(QStringLiteral("txtCodigoNumero"), 4380, 840, 960);
     etiqueta(QStringLiteral("LimiteCredito:"), 5460, 870, 1200);
     txtLimite = campo<CajaTexto>(QStringLiteral("txtLimite"), 6720, 840, 1680);
     txtLimite->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     txtLimite->setText(QStringLiteral("0.00"));
 
     auto* encabezado = etiqueta(QStringLiteral("Historial crediticio"), 120, 1260, 3000);
-    encabezado->setStyleSheet(QStringLiteral("font-weight: bold;"));
+    QFont negrita = encabezado->font(); // by font, not style sheet: it reads as well while browsing
+    negrita.setBold(true);
+    encabezado->setFont(negrita);
     fgDetalle = campo<GrillaDetalle>(QStringLiteral("fgDetalle"), 120, 1560, 8280, 2400);
 
     txtFechaNacimiento = campo<CajaTexto>(QStringLiteral("txtFechaNacimiento"), 0, 0, 0);

@@ -20,17 +20,17 @@ frmHistorial::frmHistorial()
     adoClasificacion->setRecordSource(QStringLiteral("Select * From Clasificacion"));
 
     // Each field under its caption, left to right.
-    etiqueta(QStringLiteral("Fecha"), 120, 90, 1200);
-    txtHFecha = campo<CajaTexto>(QStringLiteral("txtHFecha"), 120, 360, 1200);
+    etiqueta(QStringLiteral("Fecha"), 120, 90, 1300);
+    txtHFecha = campo<CajaTexto>(QStringLiteral("txtHFecha"), 120, 360, 1300);
     txtHFecha->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    etiqueta(QStringLiteral("Descripción del artículo"), 1440, 90, 3600);
-    txtHDescripcion = campo<CajaTexto>(QStringLiteral("txtHDescripcion"), 1440, 360, 3600);
-    etiqueta(QStringLiteral("Valor"), 5160, 90, 1200);
-    txtHValor = campo<CajaTexto>(QStringLiteral("txtHValor"), 5160, 360, 1200);
+    etiqueta(QStringLiteral("Descripción del artículo"), 1540, 90, 3480);
+    txtHDescripcion = campo<CajaTexto>(QStringLiteral("txtHDescripcion"), 1540, 360, 3480);
+    etiqueta(QStringLiteral("Valor"), 5140, 90, 1200);
+    txtHValor = campo<CajaTexto>(QStringLiteral("txtHValor"), 5140, 360, 1200);
     txtHValor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     txtHValor->setText(QStringLiteral("0.00"));
-    etiqueta(QStringLiteral("Clasificacion"), 6480, 90, 1560);
-    dcClasificacion = campo<ComboDatos>(QStringLiteral("dcClasificacion"), 6480, 360, 1560, 315);
+    etiqueta(QStringLiteral("Clasificacion"), 6460, 90, 1580);
+    dcClasificacion = campo<ComboDatos>(QStringLiteral("dcClasificacion"), 6460, 360, 1580, 315);
     dcClasificacion->setRowSource(adoClasificacion);
     dcClasificacion->setListField(QStringLiteral("Descripcion"));
     dcClasificacion->setBoundColumn(QStringLiteral("ClasificacionID"));
