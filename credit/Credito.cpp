@@ -1,5 +1,6 @@
 #include "credit/Credito.h"
 
+#include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
@@ -7,6 +8,8 @@
 namespace credito {
 
 void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmCliente"),
+                                      [] { Common::Pantalla<frmCliente>().Show(); });
     shell::frmMain::registrarPantalla(QStringLiteral("frmFiador"),
                                       [] { Common::Pantalla<frmFiador>().Show(); });
 }

@@ -12,6 +12,11 @@ DialogoDeLinea::DialogoDeLinea(const QString& titulo, double ancho, double alto,
     setKeyPreview(true);
 }
 
+void DialogoDeLinea::AjustarPantalla() {
+    Marco::AjustarPantalla();
+    HabilitarEdicion(true);
+}
+
 void DialogoDeLinea::Anular() {
     Common::Parametros.ReDim(elementosAlAnular_);
     Unload();

@@ -15,6 +15,10 @@ public:
     DialogoDeLinea(const QString& titulo, double ancho, double alto, int elementosAlAnular = 1,
                    QWidget* parent = nullptr);
 
+    // The standard layout, with the working frame enabled: a line dialog's fields take input from the
+    // moment it opens.
+    void AjustarPantalla();
+
 protected:
     void cmdClose_Click() override { Anular(); }
     // Parametros emptied, then the dialog unloads.

@@ -39,10 +39,10 @@ void LineasDeDetalle::DobleClic() {
     if (editando_) alEditar();
 }
 
-void LineasDeDetalle::mostrarDialogo() {
-    Common::AtenuarTitulo(pantalla_);
+void LineasDeDetalle::mostrarDialogo(bool atenuar) {
+    if (atenuar) Common::AtenuarTitulo(pantalla_);
     if (abrirDialogo) abrirDialogo();
-    Common::ResaltarTitulo(pantalla_);
+    if (atenuar) Common::ResaltarTitulo(pantalla_);
 }
 
 bool LineasDeDetalle::PedirLinea(int elementos) {
@@ -56,7 +56,7 @@ void LineasDeDetalle::EditarLinea() {
     Common::Parametros.ReDim(grilla_.Cols());
     for (int c = 0; c < grilla_.Cols(); ++c)
         Common::Parametros(c + 1) = grilla_.TextMatrix(fila, c);
-    mostrarDialogo();
+    mostrarDialogo(atenuarAlEditar);
     if (Common::Parametros.Vacio(1)) return;
     for (int c = 0; c < grilla_.Cols() && c < Common::Parametros.UBound(); ++c)
         grilla_.setTextMatrix(fila, c, runtime::TextoDe(Common::Parametros(c + 1)));

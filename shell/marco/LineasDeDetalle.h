@@ -42,6 +42,9 @@ public:
     // Whether a row is the grid's blank row, which the first real line replaces; by default, an
     // empty first cell.
     std::function<bool(int fila)> filaEnBlanco;
+    // Whether editing a line (Enter, double click) dims the screen's title while the dialog stands;
+    // adding one always does.
+    bool atenuarAlEditar = true;
 
     // The steps the screens compose.
     // Parametros reset to `elementos` empty elements, the dialog shown with the title dimmed around
@@ -55,7 +58,7 @@ public:
 private:
     void Tecla(int KeyCode, int Shift);
     void DobleClic();
-    void mostrarDialogo();
+    void mostrarDialogo(bool atenuar = true);
 
     Marco& pantalla_;
     GrillaDetalle& grilla_;

@@ -47,7 +47,7 @@ void TstNavegacion::cleanup() {
 void TstNavegacion::menuAbreSuPantalla_data() {
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("pantalla");
-    const QList<std::pair<const char*, const char*>> filas = {{"Clientes", ""},
+    const QList<std::pair<const char*, const char*>> filas = {{"Clientes", "frmCliente"},
                                                               {"Fiadores", "frmFiador"},
                                                               {"Proveedores", "frmProveedor"},
                                                               {"Bancos", "frmBanco"},

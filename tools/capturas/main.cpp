@@ -8,6 +8,7 @@
 #include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
 #include "catalogs/frmProveedor.h"
+#include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
@@ -164,6 +165,21 @@ int main(int argc, char* argv[]) {
     pendientes << kElegir; // "Buscar" picks the first guarantor
     QTest::mouseClick(fiador.cmdBoton[0], Qt::LeftButton);
     dosModos(fiador, QStringLiteral("frmFiador"), 2); // "Modificar"
+    // The first client found, with a second line in its history; then the dialog on its first line.
+    base.sqlite(
+        QStringLiteral("INSERT INTO ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, "
+                       "ClasificacionID) SELECT hidID, '2025-11-03', 'Refrigeradora RT38 al crédito', "
+                       "4850, 1 FROM vwBuscaCliente LIMIT 1;"));
+    auto& cliente = Common::Pantalla<credito::frmCliente>();
+    cliente.Show();
+    cliente.move(120, 180);
+    pendientes << kElegir; // "Buscar" picks the first client
+    QTest::mouseClick(cliente.cmdBoton[0], Qt::LeftButton);
+    dosModos(cliente, QStringLiteral("frmCliente"), 2); // "Modificar"
+    pendientes << QStringLiteral("frmHistorial");
+    cliente.fgDetalle->setFocus();
+    cliente.fgDetalle->setRow(1);
+    QTest::keyClick(cliente.fgDetalle, Qt::Key_Return); // the line in its dialog
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));
