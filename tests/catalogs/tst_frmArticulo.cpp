@@ -68,9 +68,7 @@ frmArticulo& TstFrmArticulo::pantalla() {
 }
 
 void TstFrmArticulo::pulsar(const QString& caption) {
-    for (QPushButton* b : Common::Pantalla<frmArticulo>().cmdBoton)
-        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable("no visible button " + caption));
+    pulsarBoton(Common::Pantalla<frmArticulo>().cmdBoton, caption);
 }
 
 // "Buscar", filtering the search by the article's name and double-clicking the row found.

@@ -57,9 +57,7 @@ frmBanco& TstFrmBanco::pantalla() {
 }
 
 void TstFrmBanco::pulsar(const QString& caption) {
-    for (QPushButton* b : pantalla().cmdBoton)
-        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable("no visible button " + caption));
+    pulsarBoton(pantalla().cmdBoton, caption);
 }
 
 void TstFrmBanco::abreEnElPrimerBanco() {

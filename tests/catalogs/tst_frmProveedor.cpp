@@ -53,9 +53,7 @@ frmProveedor& TstFrmProveedor::pantalla() {
 }
 
 void TstFrmProveedor::pulsar(const QString& caption) {
-    for (QPushButton* b : pantalla().cmdBoton)
-        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable("no visible button " + caption));
+    pulsarBoton(pantalla().cmdBoton, caption);
 }
 
 // The pick list lists by name; the row is picked with "&Aceptar".

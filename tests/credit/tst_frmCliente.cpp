@@ -91,9 +91,7 @@ frmCliente& TstFrmCliente::pantalla() {
 }
 
 void TstFrmCliente::pulsar(const QString& caption) {
-    for (QPushButton* b : pantalla().cmdBoton)
-        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable("no visible button " + caption));
+    pulsarBoton(pantalla().cmdBoton, caption);
 }
 
 // "Buscar": the whole list, and a double click on the row of the surname.

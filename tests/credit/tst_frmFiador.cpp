@@ -79,9 +79,7 @@ frmFiador& TstFrmFiador::pantalla() {
 }
 
 void TstFrmFiador::pulsar(const QString& caption) {
-    for (QPushButton* b : pantalla().cmdBoton)
-        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable("no visible button " + caption));
+    pulsarBoton(pantalla().cmdBoton, caption);
 }
 
 // "Buscar", filtering the search by the given names and double-clicking the first row found.

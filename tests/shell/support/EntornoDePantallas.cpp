@@ -79,3 +79,9 @@ void salirCon(QWidget* control, Qt::Key tecla) {
     control->setFocus();
     QTest::keyClick(control, tecla);
 }
+
+void pulsarBoton(const QList<QPushButton*>& barra, const QString& caption) {
+    for (QPushButton* b : barra)
+        if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
+    QFAIL(qPrintable("no visible button " + caption));
+}

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <functional>
 
+class QPushButton;
 class QWidget;
 
 // What a screen test needs around the screens: Common's values as Main leaves them, a modal driver
@@ -50,6 +51,8 @@ private:
 // Types text into a control with key events that carry their text (QTest::keyClicks can't send
 // accented letters in Qt 6.4).
 void teclear(QWidget* control, const QString& texto);
+// Clicks the visible button of a bar with this caption; fails the test when none shows it.
+void pulsarBoton(const QList<QPushButton*>& barra, const QString& caption);
 // Gives a control focus and then moves focus away with Tab, so that its validate step runs.
 void salirCon(QWidget* control, Qt::Key tecla = Qt::Key_Tab);
 // The child of a screen by its given name; fails the test when absent.
