@@ -152,30 +152,30 @@ int main(int argc, char* argv[]) {
     proveedor.adoProveedor->Refresh();
     dosModos(proveedor, QStringLiteral("frmProveedor"), 2); // "Modificar"
 
+    // A record screen shown at (x, y) on the first row its "Buscar" finds, in both modes.
+    const auto buscadaEnDosModos = [&](shell::Marco& pantalla, const QString& nombre, int x, int y,
+                                       int botonEdicion) {
+        pantalla.Show();
+        pantalla.move(x, y);
+        pendientes << kElegir;
+        QTest::mouseClick(pantalla.cmdBoton[0], Qt::LeftButton);
+        dosModos(pantalla, nombre, botonEdicion);
+    };
     auto& articulo = Common::Pantalla<catalogos::frmArticulo>();
-    articulo.Show();
-    articulo.move(100, 160);
-    pendientes << kElegir; // "Buscar" picks the first article
-    QTest::mouseClick(articulo.cmdBoton[0], Qt::LeftButton);
-    dosModos(articulo, QStringLiteral("frmArticulo"), 1); // "Modificar"
+    buscadaEnDosModos(articulo, QStringLiteral("frmArticulo"), 100, 160,
+                      1); // the first article, then "Modificar"
 
     auto& fiador = Common::Pantalla<credito::frmFiador>();
-    fiador.Show();
-    fiador.move(120, 180);
-    pendientes << kElegir; // "Buscar" picks the first guarantor
-    QTest::mouseClick(fiador.cmdBoton[0], Qt::LeftButton);
-    dosModos(fiador, QStringLiteral("frmFiador"), 2); // "Modificar"
+    buscadaEnDosModos(fiador, QStringLiteral("frmFiador"), 120, 180,
+                      2); // the first guarantor, then "Modificar"
     // The first client found, with a second line in its history; then the dialog on its first line.
     base.sqlite(
         QStringLiteral("INSERT INTO ClienteHistorial (ClienteID, Fecha, Descripcion, Valor, "
                        "ClasificacionID) SELECT hidID, '2025-11-03', 'Refrigeradora RT38 al crédito', "
                        "4850, 1 FROM vwBuscaCliente LIMIT 1;"));
     auto& cliente = Common::Pantalla<credito::frmCliente>();
-    cliente.Show();
-    cliente.move(120, 180);
-    pendientes << kElegir; // "Buscar" picks the first client
-    QTest::mouseClick(cliente.cmdBoton[0], Qt::LeftButton);
-    dosModos(cliente, QStringLiteral("frmCliente"), 2); // "Modificar"
+    buscadaEnDosModos(cliente, QStringLiteral("frmCliente"), 120, 180,
+                      2); // the first client, then "Modificar"
     pendientes << QStringLiteral("frmHistorial");
     cliente.fgDetalle->setFocus();
     cliente.fgDetalle->setRow(1);

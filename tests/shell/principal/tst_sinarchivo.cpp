@@ -34,15 +34,9 @@ void TstSinArchivo::archivoQueNoExisteTerminaNombrandolo() {
                            QStringLiteral("FKSupport=1")});
     const QStringList antes = BaseDePrueba::contenido(base.directorio());
 
-    EntornoDePantallas entorno;
-    entorno.esperaFallos();
-    entorno.alMostrarModal([](shell::Formulario& splash) { splash.Unload(); });
-    shell::Main();
-    QCOMPARE(entorno.fallos.size(), 1);
-    const QString texto = entorno.fallos[0].descripcion();
+    const QString texto = falloAlIniciar();
     QVERIFY2(texto.contains(archivo), qPrintable(texto));
     QVERIFY2(texto.endsWith(QLatin1String("DSNBrenal con: cuentacorriente-db init")), qPrintable(texto));
-    QCOMPARE(Common::DE().CN.State(), 0);
     QCOMPARE(BaseDePrueba::contenido(base.directorio()), antes);
 }
 

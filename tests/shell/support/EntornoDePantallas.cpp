@@ -1,6 +1,7 @@
 #include "EntornoDePantallas.h"
 
 #include "shell/marco/Marco.h"
+#include "shell/principal/Main.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -84,4 +85,21 @@ void pulsarBoton(const QList<QPushButton*>& barra, const QString& caption) {
     for (QPushButton* b : barra)
         if (b->text() == caption && b->isVisible()) return QTest::mouseClick(b, Qt::LeftButton);
     QFAIL(qPrintable("no visible button " + caption));
+}
+
+QString falloAlIniciar() {
+    EntornoDePantallas entorno;
+    entorno.esperaFallos();
+    entorno.alMostrarModal([](shell::Formulario& splash) { splash.Unload(); });
+    shell::Main();
+    if (entorno.fallos.size() != 1) {
+        QTest::qFail(qPrintable(QStringLiteral("%1 failures at start-up").arg(entorno.fallos.size())),
+                     __FILE__, __LINE__);
+        return {};
+    }
+    if (Common::DE().CN.State() != 0) {
+        QTest::qFail("the shared connection is open after a failed start-up", __FILE__, __LINE__);
+        return {};
+    }
+    return entorno.fallos[0].descripcion();
 }

@@ -51,6 +51,10 @@ private:
 // Types text into a control with key events that carry their text (QTest::keyClicks can't send
 // accented letters in Qt 6.4).
 void teclear(QWidget* control, const QString& texto);
+// Starts the program as main() does, closing its splash, where the start-up is expected to fail: the
+// text of the one failure that reached the fatal path, "" (and the test failed) when it was not one,
+// or when the shared connection was left open.
+QString falloAlIniciar();
 // Clicks the visible button of a bar with this caption; fails the test when none shows it.
 void pulsarBoton(const QList<QPushButton*>& barra, const QString& caption);
 // Gives a control focus and then moves focus away with Tab, so that its validate step runs.
