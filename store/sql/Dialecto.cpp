@@ -17,7 +17,8 @@ using T = Expr::Tipo;
 }
 
 bool esNombreSimple(const QString& n) {
-    static const QRegularExpression simple(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
+    // Anchored at the very end: "$" would also match before a final line break.
+    static const QRegularExpression simple(QRegularExpression::anchoredPattern(u"[A-Za-z_][A-Za-z0-9_]*"));
     return simple.match(n).hasMatch();
 }
 

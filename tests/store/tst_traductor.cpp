@@ -1153,6 +1153,9 @@ void TstTraductor::unLiteralNoMueveLasPiezas_data() {
                                                     << "AS \"limit\"";
     QTest::newRow("columna que es palabra de SQLite") << "Select Offset From T"
                                                       << "SELECT \"Offset\" FROM";
+    // A bracketed name ending in a line break was once written bare, as if it were the name without it.
+    QTest::newRow("nombre que termina en salto de linea") << "Select Nombre As [Banco\n] From Banco"
+                                                          << "AS \"Banco\n\"";
     QTest::newRow("alias entre comillas") << "Select Nombre As 'a b''c' From Banco"
                                           << "AS \"a b'c\"";
     QTest::newRow("blancos que no son ASCII en un texto")
