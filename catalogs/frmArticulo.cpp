@@ -186,14 +186,8 @@ void frmArticulo::cmdBoton_Click(int Index) {
 }
 
 void frmArticulo::Buscar() {
-    Common::AtenuarTitulo(*this);
-    Common::ConsultaBusqueda = QStringLiteral("Select * From vwBuscaArticulo");
-    auto& busca = Common::Pantalla<frmBusca>();
-    busca.lblTitulo->setText(QStringLiteral("Busca articulos"));
-    busca.Move(Left() + 300, Top() + 300);
-    busca.ShowModal();
-    Common::ResaltarTitulo(*this);
-    if (!Common::Parametros.Vacio(1)) {
+    if (shell::Buscar(*this, QStringLiteral("Select * From vwBuscaArticulo"),
+                      QStringLiteral("Busca articulos"))) {
         adoArticulo->setRecordSource(QStringLiteral("Select * From Articulo Where ArticuloID = %1")
                                          .arg(runtime::TextoDe(Common::Parametros(1))));
         adoArticulo->Refresh();

@@ -2,6 +2,7 @@
 
 #include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
+#include "credit/frmSolicitud.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
 
@@ -12,6 +13,8 @@ void registrarPantallas() {
                                       [] { Common::Pantalla<frmCliente>().Show(); });
     shell::frmMain::registrarPantalla(QStringLiteral("frmFiador"),
                                       [] { Common::Pantalla<frmFiador>().Show(); });
+    shell::frmMain::registrarPantalla(QStringLiteral("frmSolicitud"),
+                                      [] { Common::Pantalla<frmSolicitud>().Show(); });
 }
 
 } // namespace credito

@@ -255,14 +255,8 @@ void frmCliente::EliminarCliente() {
 }
 
 void frmCliente::Buscar() {
-    Common::AtenuarTitulo(*this);
-    Common::ConsultaBusqueda = QStringLiteral("Select * From vwBuscaCliente");
-    auto& busca = Common::Pantalla<frmBusca>();
-    busca.lblTitulo->setText(QStringLiteral("Busca clientes"));
-    busca.Move(Left() + 300, Top() + 300);
-    busca.ShowModal();
-    Common::ResaltarTitulo(*this);
-    if (!Common::Parametros.Vacio(1)) {
+    if (shell::Buscar(*this, QStringLiteral("Select * From vwBuscaCliente"),
+                      QStringLiteral("Busca clientes"))) {
         adoCliente->setRecordSource(kUnCliente + runtime::TextoDe(Common::Parametros(1)));
         adoCliente->Refresh();
         CargarHistorial();

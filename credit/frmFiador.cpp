@@ -189,14 +189,7 @@ void frmFiador::Boton(const QString& boton) {
 
 // Brings up the guarantor picked; the picker and the time boxes keep what they showed.
 void frmFiador::Buscar() {
-    Common::AtenuarTitulo(*this);
-    Common::ConsultaBusqueda = QStringLiteral("Select * From vwBuscaFiador");
-    auto& busca = Common::Pantalla<frmBusca>();
-    busca.lblTitulo->setText(QStringLiteral("Busca fiador"));
-    busca.Move(Left() + 300, Top() + 300);
-    busca.ShowModal();
-    Common::ResaltarTitulo(*this);
-    if (!Common::Parametros.Vacio(1)) {
+    if (shell::Buscar(*this, QStringLiteral("Select * From vwBuscaFiador"), QStringLiteral("Busca fiador"))) {
         adoFiador->setRecordSource(QStringLiteral("Select * From Fiador Where FiadorID = %1")
                                        .arg(runtime::TextoDe(Common::Parametros(1))));
         adoFiador->Refresh();

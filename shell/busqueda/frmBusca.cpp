@@ -209,4 +209,15 @@ void frmBusca::cmdClose_Click() {
     Unload();
 }
 
+bool Buscar(Formulario& llamador, const QString& consulta, const QString& titulo) {
+    Common::AtenuarTitulo(llamador);
+    Common::ConsultaBusqueda = consulta;
+    auto& busca = Common::Pantalla<frmBusca>();
+    busca.lblTitulo->setText(titulo);
+    busca.Move(llamador.Left() + 300, llamador.Top() + 300);
+    busca.ShowModal();
+    Common::ResaltarTitulo(llamador);
+    return !Common::Parametros.Vacio(1);
+}
+
 } // namespace shell

@@ -46,4 +46,9 @@ private:
     bool CajasCreadas = false;
 };
 
+// The search as every screen opens it: the caller's title dimmed, the query set, the search screen
+// with its caption at the caller's Left + 300, Top + 300, shown modally, the caller's title highlighted
+// again. True when a row was picked (its fields are in Common::Parametros).
+bool Buscar(Formulario& llamador, const QString& consulta, const QString& titulo);
+
 } // namespace shell

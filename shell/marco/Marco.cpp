@@ -110,8 +110,8 @@ QPushButton* Marco::crearBoton(int indice, const QString& caption, double left, 
     return boton;
 }
 
-QLabel* Marco::etiqueta(const QString& texto, double left, double top, double ancho) {
-    auto* l = new QLabel(texto, fraMain);
+QLabel* Marco::etiquetaEn(QWidget* padre, const QString& texto, double left, double top, double ancho) {
+    auto* l = new QLabel(texto, padre);
     l->setObjectName(QStringLiteral("lblFieldLabel(%1)").arg(etiquetas_++));
     colocarEn(l, left, top, ancho, 255);
     return l;

@@ -42,12 +42,20 @@ protected:
     // A button of the bar, 1,200 x 375 twips, 120 from the bar's top, with the icon of its caption.
     QPushButton* crearBoton(int indice, const QString& caption, double left, bool visible = true,
                             double ancho = 1200);
-    // A caption of lblFieldLabel in fraMain.
-    QLabel* etiqueta(const QString& texto, double left, double top, double ancho = 800);
-    // A control placed in fraMain.
+    // A caption of lblFieldLabel in fraMain, or in another frame or panel of the screen.
+    QLabel* etiqueta(const QString& texto, double left, double top, double ancho = 800) {
+        return etiquetaEn(fraMain, texto, left, top, ancho);
+    }
+    QLabel* etiquetaEn(QWidget* padre, const QString& texto, double left, double top, double ancho = 800);
+    // A control placed in fraMain, or in another frame or panel of the screen.
     template <class T>
     T* campo(const QString& nombre, double left, double top, double ancho, double alto = 285) {
-        auto* c = new T(fraMain);
+        return campoEn<T>(fraMain, nombre, left, top, ancho, alto);
+    }
+    template <class T>
+    T* campoEn(QWidget* padre, const QString& nombre, double left, double top, double ancho,
+               double alto = 285) {
+        auto* c = new T(padre);
         c->setObjectName(nombre);
         colocarEn(c, left, top, ancho, alto);
         return c;

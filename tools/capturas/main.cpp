@@ -10,6 +10,7 @@
 #include "catalogs/frmProveedor.h"
 #include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
+#include "credit/frmSolicitud.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -179,7 +180,29 @@ int main(int argc, char* argv[]) {
     pendientes << QStringLiteral("frmHistorial");
     cliente.fgDetalle->setFocus();
     cliente.fgDetalle->setRow(1);
-    QTest::keyClick(cliente.fgDetalle, Qt::Key_Return); // the line in its dialog
+    QTest::keyClick(cliente.fgDetalle, Qt::Key_Return);     // the line in its dialog
+    QTest::mouseClick(cliente.cmdBoton[6], Qt::LeftButton); // "Cancelar" ends its transaction
+
+    // The first application found (approved), then a new one with its client, guarantor and a line.
+    auto& solicitud = Common::Pantalla<credito::frmSolicitud>();
+    solicitud.Show();
+    solicitud.move(10, 10);
+    pendientes << kElegir;
+    QTest::mouseClick(solicitud.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(solicitud.grab(), QStringLiteral("frmSolicitud-consultando"));
+    QTest::mouseClick(solicitud.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    pendientes << kElegir;
+    QTest::mouseClick(solicitud.cmdCliente, Qt::LeftButton);
+    pendientes << kElegir;
+    QTest::mouseClick(solicitud.cmdFiador, Qt::LeftButton);
+    solicitud.txtFiadorParentesco->setText(QStringLiteral("Hermana"));
+    solicitud.txtCasaDireccion->setText(QStringLiteral("4a. calle 3-20 zona 1"));
+    pendientes << kElegir << QStringLiteral("frmSolicitudArticulo");
+    solicitud.fgDetalle->setFocus();
+    QTest::keyClick(solicitud.fgDetalle, Qt::Key_Insert); // an article, its dialog captured
+    QCoreApplication::processEvents();
+    guardar(solicitud.grab(), QStringLiteral("frmSolicitud-editando"));
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));
