@@ -33,6 +33,8 @@ QIcon para(const QString& caption) {
         {QStringLiteral("Modificar"), QStringLiteral("modificar")},
         {QStringLiteral("Eliminar"), QStringLiteral("eliminar")},
         {QStringLiteral("Imprimir"), QStringLiteral("imprimir")},
+        {QStringLiteral("Aprobar"), QStringLiteral("aprobar")},
+        {QStringLiteral("Rechazar"), QStringLiteral("rechazar")},
         {QStringLiteral("Guardar"), QStringLiteral("guardar")},
         {QStringLiteral("Cancelar"), QStringLiteral("cancelar")},
         {QStringLiteral("Aceptar"), QStringLiteral("aceptar")},
