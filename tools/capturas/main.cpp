@@ -10,6 +10,7 @@
 #include "catalogs/frmProveedor.h"
 #include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
+#include "credit/frmSolicitudArticulo.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -180,6 +181,24 @@ int main(int argc, char* argv[]) {
     cliente.fgDetalle->setFocus();
     cliente.fgDetalle->setRow(1);
     QTest::keyClick(cliente.fgDetalle, Qt::Key_Return); // the line in its dialog
+
+    // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
+    // one unit; opened at its caller's Left + 300, Top + 300.
+    Common::Parametros.ReDim(8);
+    const QVariantList fila = {1,
+                               QStringLiteral("Refrigeradora"),
+                               QStringLiteral("RT38"),
+                               QStringLiteral("Blanca"),
+                               100.0,
+                               25.0,
+                               0.0,
+                               1};
+    for (int i = 0; i < fila.size(); ++i)
+        Common::Parametros(i + 1) = fila.at(i);
+    pendientes << QStringLiteral("frmSolicitudArticulo");
+    auto& lineaArticulo = Common::Pantalla<credito::frmSolicitudArticulo>();
+    lineaArticulo.Move(cliente.Left() + 300, cliente.Top() + 300);
+    lineaArticulo.ShowModal();
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));
