@@ -58,6 +58,12 @@ private Q_SLOTS:
     void ventaRehusada();
     void decididaSePuedeModificar_data();
     void decididaSePuedeModificar();
+    void tiemposEnMeses_data();
+    void tiemposEnMeses();
+    void tipoDeCampo_data();
+    void tipoDeCampo();
+    void enterAvanza_data();
+    void enterAvanza();
     void cancelarNoVuelveAMostrar_data();
     void cancelarNoVuelveAMostrar();
     void modificarSinSolicitud();
@@ -500,6 +506,121 @@ void TstFrmSolicitud::decididaSePuedeModificar() {
         QCOMPARE(texto, mensaje);
     }
     QCOMPARE(db("SELECT Estado FROM Solicitud WHERE SolicitudID = 2"), QString::number(estado));
+}
+
+// The times at home and in the job are typed as years and months and stored as months; an
+// application brought up shows them as years and months again.
+void TstFrmSolicitud::tiemposEnMeses_data() {
+    QTest::addColumn<QStringList>("tecleado"); // home years, home months, job years, job months
+    QTest::addColumn<QString>("guardado");     // CasaTiempo|TrabajoTiempo
+    QTest::addColumn<QStringList>("mostrado");
+    QTest::newRow("2 años 6 meses son 30")
+        << QStringList{"2", "6", "0", "11"} << "30|11" << QStringList{"2", "6", "0", "11"};
+    QTest::newRow("solo meses, más de 11")
+        << QStringList{"", "30", "1", ""} << "30|12" << QStringList{"2", "6", "1", "0"};
+    QTest::newRow("cajas vacías: 0") << QStringList{"", "", "", ""} << "0|0"
+                                     << QStringList{"0", "0", "0", "0"};
+}
+
+void TstFrmSolicitud::tiemposEnMeses() {
+    QFETCH(QStringList, tecleado);
+    QFETCH(QString, guardado);
+    QFETCH(QStringList, mostrado);
+    auto& p = pantalla();
+    s_->llenarNueva({QStringLiteral("ESTUFA")});
+    const QList<shell::CajaTexto*> cajas{p.txtCasaTiempoA, p.txtCasaTiempoM, p.txtTrabajoTiempoA,
+                                         p.txtTrabajoTiempoM};
+    for (int i = 0; i < cajas.size(); ++i)
+        SolicitudEnPantalla::escribir(cajas[i], tecleado[i]);
+    pulsar("Guardar");
+    verificarConsulta();
+    QCOMPARE(db("SELECT CasaTiempo || '|' || TrabajoTiempo FROM Solicitud WHERE NumeroSolicitud = 42"),
+             guardado);
+    pulsar("Agregar"); // the boxes emptied for the next one
+    for (shell::CajaTexto* c : cajas)
+        QCOMPARE(c->text(), QString());
+    pulsar("Cancelar");
+    s_->buscarSolicitud(QStringLiteral("42"));
+    QStringList vistos;
+    for (shell::CajaTexto* c : cajas)
+        vistos << c->text();
+    QCOMPARE(vistos, mostrado);
+}
+
+// The time boxes and the zones take digits alone; the monthly income takes anything.
+void TstFrmSolicitud::tipoDeCampo_data() {
+    QTest::addColumn<QString>("caja");
+    QTest::addColumn<QString>("tecleado");
+    QTest::addColumn<QString>("queda");
+    QTest::newRow("años de casa") << "txtCasaTiempoA"
+                                  << "1.5"
+                                  << "15";
+    QTest::newRow("meses de trabajo") << "txtTrabajoTiempoM"
+                                      << "-6"
+                                      << "6";
+    QTest::newRow("zona de la casa") << "txtCasaZona"
+                                     << "zona 10"
+                                     << "10";
+    QTest::newRow("zona del trabajo") << "txtTrabajoZona"
+                                      << "4a"
+                                      << "4";
+    QTest::newRow("ingreso mensual, sin filtro") << "txtTrabajoSueldo"
+                                                 << "Q 1,500.75"
+                                                 << "Q 1,500.75";
+    QTest::newRow("día de pago: dos caracteres") << "txtDiaPago"
+                                                 << "123"
+                                                 << "12";
+}
+
+void TstFrmSolicitud::tipoDeCampo() {
+    QFETCH(QString, caja);
+    QFETCH(QString, tecleado);
+    QFETCH(QString, queda);
+    auto& p = pantalla();
+    pulsar("Agregar");
+    auto* c = control<shell::CajaTexto>(&p, caja);
+    QVERIFY(c);
+    c->setFocus();
+    c->selectAll();
+    teclear(c, tecleado);
+    QCOMPARE(c->text(), queda);
+}
+
+// Enter in a field moves on as Tab does, through the rows of the application and then the plan.
+void TstFrmSolicitud::enterAvanza_data() {
+    QTest::addColumn<QString>("desde");
+    QTest::addColumn<QString>("hasta");
+    QTest::newRow("número, fecha") << "txtNumeroSolicitud"
+                                   << "dpFecha";
+    QTest::newRow("teléfonos, propia") << "txtCasaTelefonos"
+                                       << "chkCasaPropia";
+    QTest::newRow("años, meses de casa") << "txtCasaTiempoA"
+                                         << "txtCasaTiempoM";
+    QTest::newRow("parentesco, Fiador >") << "txtFiadorParentesco"
+                                          << "cmdFiador";
+    QTest::newRow("descuento %, descuento Q") << "txtDescuentoP"
+                                              << "txtDescuento";
+    QTest::newRow("primer pago, meses") << "txtPrimerPago"
+                                        << "txtMesesCredito";
+    QTest::newRow("meses, día de pago") << "txtMesesCredito"
+                                        << "txtDiaPago";
+}
+
+void TstFrmSolicitud::enterAvanza() {
+    QFETCH(QString, desde);
+    QFETCH(QString, hasta);
+    auto& p = pantalla();
+    pulsar("Agregar");
+    QWidget* origen = control(&p, desde);
+    origen->setFocus();
+    QTest::keyClick(origen, Qt::Key_Return);
+    // The focus lands on the field, or inside it (the picker's own editor).
+    QWidget* foco = QApplication::focusWidget();
+    while (foco && foco->objectName().isEmpty())
+        foco = foco->parentWidget();
+    QVERIFY(foco);
+    QCOMPARE(foco->objectName(), hasta);
+    if (auto* caja = qobject_cast<QLineEdit*>(origen)) QCOMPARE(caja->text().contains(u'\r'), false);
 }
 
 // "Cancelar" after "Agregar" puts the bound fields back on the application shown before, but shows
