@@ -48,6 +48,7 @@ private Q_SLOTS:
     void cleanup();
     void vidaDeUnaSolicitud_data();
     void vidaDeUnaSolicitud();
+    void eliminarRehusado();
     void validarSolicitud_data();
     void validarSolicitud();
     void agregarPropone_data();
@@ -243,6 +244,28 @@ void TstFrmSolicitud::vidaDeUnaSolicitud() {
     QCOMPARE(db(estado), fila);
     QCOMPARE(db(lineas), QStringLiteral("1x1=500.00;2x1=130.00"));
     QCOMPARE(p.panEstado->text(), palabra);
+}
+
+// A deletion the database refuses (a receipt names the application): its message, and the lines
+// deleted before the refusal come back with the rollback; the screen goes on browsing.
+void TstFrmSolicitud::eliminarRehusado() {
+    s_->base().sqlite("INSERT INTO Recibo (NumeroRecibo, Fecha, SolicitudID) VALUES (1, '2026-03-01', 1);");
+    auto& p = pantalla();
+    s_->buscarSolicitud(QStringLiteral("40"));
+    s_->responder(QStringLiteral("Aceptar"));
+    QString texto;
+    s_->responder(QStringLiteral("cmdClose"), &texto);
+    pulsar("Eliminar");
+    QVERIFY2(texto.contains(QStringLiteral("No puede eliminarse la solicitud")), qPrintable(texto));
+    QCOMPARE(s_->entorno().titulosModales.last(), kTitulo);
+    QVERIFY(s_->entorno().fallos.isEmpty());
+    verificarConsulta();
+    QCOMPARE(db("SELECT count(*) || '/' || (SELECT count(*) FROM SolicitudDetalle WHERE SolicitudID = 1) "
+                "FROM Solicitud WHERE SolicitudID = 1"),
+             QStringLiteral("1/1"));
+    QCOMPARE(p.panEstado->text(), QStringLiteral("PENDIENTE DE APROBACION"));
+    pulsar("Agregar"); // a new transaction begins: the refused one is gone
+    verificarEdicion(QStringLiteral("Agregar nuevo registro"));
 }
 
 // "Guardar" checks in this order and stops at the first thing missing, whatever comes after it;

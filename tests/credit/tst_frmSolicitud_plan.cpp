@@ -26,6 +26,8 @@ private Q_SLOTS:
     void insertarLinea();
     void editarLinea_data();
     void editarLinea();
+    void dobleClicEnLaFilaEnBlanco_data();
+    void dobleClicEnLaFilaEnBlanco();
     void lineasEnLaRejilla_data();
     void lineasEnLaRejilla();
     void teclasSoloEditando_data();
@@ -415,6 +417,28 @@ void TstFrmSolicitudPlan::editarLinea() {
     QCOMPARE(p.lblTotalPagar->text(), totalAlVolver);
     s_->tecla(Qt::Key_Right);
     QCOMPARE(p.lblTotalPagar->text(), totalTrasTecla);
+}
+
+// A double click on the blank row of an empty grid opens the dialog with nothing loaded, and whatever
+// the clerk does there no line comes of it: there is no article.
+void TstFrmSolicitudPlan::dobleClicEnLaFilaEnBlanco_data() {
+    QTest::addColumn<QString>("cierre");
+    QTest::newRow("aceptado con cantidad y precio") << "&Aceptar";
+    QTest::newRow("cancelado") << "&Cancelar";
+}
+
+void TstFrmSolicitudPlan::dobleClicEnLaFilaEnBlanco() {
+    QFETCH(QString, cierre);
+    auto& p = pantalla();
+    pulsar("Agregar");
+    s_->responderLinea(QStringLiteral("2"), QStringLiteral("10"), cierre);
+    s_->dobleClic(1);
+    QCOMPARE(s_->entorno().modalesMostradas, QStringList{"frmSolicitudArticulo"});
+    QCOMPARE(s_->cantidadAlAbrir, QString());
+    QCOMPARE(s_->precioAlAbrir, QStringLiteral("0.00"));
+    QCOMPARE(s_->filas(), QStringList{"|||"});
+    s_->tecla(Qt::Key_Right);
+    QCOMPARE(p.lblTotalPagar->text(), QStringLiteral("0.00"));
 }
 
 // Lines added ("+ESTUFA"; "+ESTUFA:&Cancelar" closes the dialog that way; "+" closes the search) and
