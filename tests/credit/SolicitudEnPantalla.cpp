@@ -121,6 +121,7 @@ void SolicitudEnPantalla::responderLinea(const QString& cantidad, const QString&
     entorno_->alMostrarModal([=, this](shell::Formulario& d) {
         auto& linea = static_cast<credito::frmSolicitudArticulo&>(d);
         activar(linea);
+        lugarDelDialogo = QPointF(linea.Left() - pantalla().Left(), linea.Top() - pantalla().Top());
         cantidadAlAbrir = linea.txtCantidad->text();
         precioAlAbrir = linea.txtPrecio->text();
         if (!cantidad.isEmpty()) escribir(linea.txtCantidad, cantidad);

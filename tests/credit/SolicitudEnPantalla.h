@@ -11,6 +11,7 @@
 #include "runtime/Fechas.h"
 
 #include <QDate>
+#include <QPointF>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -57,10 +58,12 @@ public:
     void elegirFiador(const QString& celda);
 
     // The next line dialog answered: the quantity and the price typed where given, closed by
-    // `cierre` ("&Aceptar", "&Cancelar" or "cmdClose"). What it showed on opening is kept.
+    // `cierre` ("&Aceptar", "&Cancelar" or "cmdClose"). What it showed on opening is kept, and where
+    // it stood from the screen's top left corner, in twips.
     void responderLinea(const QString& cantidad, const QString& precio,
                         const QString& cierre = QStringLiteral("&Aceptar"));
     QString cantidadAlAbrir, precioAlAbrir;
+    QPointF lugarDelDialogo;
     // Insert on the grid: the article picked by its name (none: the search closed), then the dialog.
     void insertarLinea(const QString& articulo, const QString& cantidad = {}, const QString& precio = {},
                        const QString& cierre = QStringLiteral("&Aceptar"));

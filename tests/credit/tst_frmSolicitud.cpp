@@ -832,8 +832,12 @@ void TstFrmSolicitud::clienteInsuficiente() {
     s_->responder(QStringLiteral("cmdClose"), &texto);
     QString estado, apellidos;
     long abrir = -1;
+    QPointF lugar;
+    QColor tituloMientras;
     s_->entorno().alMostrarModal([&](shell::Formulario& f) {
         auto& c = static_cast<frmCliente&>(f);
+        lugar = QPointF(c.Left() - p.Left(), c.Top() - p.Top());
+        tituloMientras = p.lblTitulo->grab().toImage().pixelColor(2, 2);
         abrir = Common::ClienteAbrir;
         estado = c.lblEstado->isVisible() ? c.lblEstado->text() : QString();
         apellidos = c.txtApellidos->text();
@@ -847,6 +851,10 @@ void TstFrmSolicitud::clienteInsuficiente() {
     QCOMPARE(texto, kInsuficiente);
     QCOMPARE(s_->entorno().titulosModales[1], kTitulo);
     QCOMPARE(abrir, clave);
+    QVERIFY2(qAbs(lugar.x() - 300) < 20 && qAbs(lugar.y() - 300) < 20,
+             "at the screen's Left + 300, Top + 300");
+    QCOMPARE(tituloMientras, QColor(128, 128, 128)); // the application's title dimmed meanwhile
+    QCOMPARE(p.lblTitulo->grab().toImage().pixelColor(2, 2), QColor(0, 0, 128));
     QCOMPARE(estado, QStringLiteral("Modificar registro actual"));
     QCOMPARE(apellidos, apellido);
     QCOMPARE(Common::ClienteAbrir, 0L); // the client screen's close box clears it
@@ -1095,8 +1103,10 @@ void TstFrmSolicitud::fiadorNuevo() {
     QCOMPARE(p.txtClienteID->text(), QStringLiteral("1"));
 
     QString estadoCivil;
+    QPointF lugar;
     s_->entorno().alMostrarModal([&](shell::Formulario& f) {
         auto& fiador = static_cast<frmFiador&>(f);
+        lugar = QPointF(fiador.Left() - p.Left(), fiador.Top() - p.Top());
         SolicitudEnPantalla::activar(fiador);
         pulsarBoton(fiador.cmdBoton, QStringLiteral("Agregar"));
         teclear(fiador.txtNombres, QStringLiteral("carlos"));
@@ -1112,6 +1122,8 @@ void TstFrmSolicitud::fiadorNuevo() {
     SolicitudEnPantalla::activar(p);
     QCOMPARE(s_->entorno().modalesMostradas.last(), QStringLiteral("frmFiador"));
     QCOMPARE(estadoCivil, QStringLiteral("Viudo(a)"));
+    QVERIFY2(qAbs(lugar.x() - 300) < 20 && qAbs(lugar.y() - 300) < 20,
+             "at the screen's Left + 300, Top + 300");
     QVERIFY(s_->entorno().fallos.isEmpty());
     QCOMPARE(db("SELECT Apellidos || '|' || EstadoCivilID FROM Fiador WHERE Nombres = 'CARLOS'"),
              QStringLiteral("RUIZ|5"));

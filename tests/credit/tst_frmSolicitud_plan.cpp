@@ -344,6 +344,8 @@ void TstFrmSolicitudPlan::insertarLinea() {
     QCOMPARE(s_->entorno().titulosModales, (QStringList{"Busca articulos", "Artículos"}));
     QCOMPARE(s_->cantidadAlAbrir, QStringLiteral("1"));
     QCOMPARE(s_->precioAlAbrir, propuesto);
+    QVERIFY2(qAbs(s_->lugarDelDialogo.x() - 300) < 20 && qAbs(s_->lugarDelDialogo.y() - 300) < 20,
+             "at the screen's Left + 300, Top + 300");
     QCOMPARE(s_->filas(), QStringList{linea});
     QCOMPARE(p.lblTotalPagar->text(), linea.section(u'|', 3));
 }
