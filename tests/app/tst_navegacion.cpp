@@ -52,7 +52,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Proveedores", "frmProveedor"},
                                                               {"Bancos", "frmBanco"},
                                                               {"Artículos", "frmArticulo"},
-                                                              {"Créditos", ""},
+                                                              {"Créditos", "frmSolicitud"},
                                                               {"Recibos", ""},
                                                               {"Facturas", ""},
                                                               {"Pagos", ""},
@@ -79,7 +79,8 @@ void TstNavegacion::menuAbreSuPantalla() {
 void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::addColumn<QString>("clave");
     QTest::addColumn<QString>("pantalla");
-    for (const char* clave : {"Creditos", "Recibos", "Facturas", "Ingresos", "Envios"})
+    QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
+    for (const char* clave : {"Recibos", "Facturas", "Ingresos", "Envios"})
         QTest::newRow(clave) << QString::fromLatin1(clave) << QString();
 }
 

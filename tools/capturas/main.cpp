@@ -11,6 +11,7 @@
 #include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
 #include "credit/frmSolicitud.h"
+#include "credit/frmSolicitudArticulo.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -198,11 +199,29 @@ int main(int argc, char* argv[]) {
     QTest::mouseClick(solicitud.cmdFiador, Qt::LeftButton);
     solicitud.txtFiadorParentesco->setText(QStringLiteral("Hermana"));
     solicitud.txtCasaDireccion->setText(QStringLiteral("4a. calle 3-20 zona 1"));
-    pendientes << kElegir << QStringLiteral("frmSolicitudArticulo");
+    pendientes << kElegir << QStringLiteral("frmSolicitud-linea");
     solicitud.fgDetalle->setFocus();
     QTest::keyClick(solicitud.fgDetalle, Qt::Key_Insert); // an article, its dialog captured
     QCoreApplication::processEvents();
     guardar(solicitud.grab(), QStringLiteral("frmSolicitud-editando"));
+
+    // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
+    // one unit; opened at its caller's Left + 300, Top + 300.
+    Common::Parametros.ReDim(8);
+    const QVariantList fila = {1,
+                               QStringLiteral("Refrigeradora"),
+                               QStringLiteral("RT38"),
+                               QStringLiteral("Blanca"),
+                               100.0,
+                               25.0,
+                               0.0,
+                               1};
+    for (int i = 0; i < fila.size(); ++i)
+        Common::Parametros(i + 1) = fila.at(i);
+    pendientes << QStringLiteral("frmSolicitudArticulo");
+    auto& lineaArticulo = Common::Pantalla<credito::frmSolicitudArticulo>();
+    lineaArticulo.Move(cliente.Left() + 300, cliente.Top() + 300);
+    lineaArticulo.ShowModal();
 
     for (const QString& e : escritos)
         std::printf("%s\n", qPrintable(e));
