@@ -106,7 +106,7 @@ frmSolicitud::frmSolicitud()
     txtDiaPago->alValidar([this] { txtDiaPago_Validate(); });
     const auto alPulsar = [this](QPushButton* boton, void (frmSolicitud::*paso)()) {
         connect(boton, &QPushButton::clicked, this,
-                [this, paso] { Common::Manejar(*this, [this, paso] { (this->*paso)(); }); });
+                [this, paso] { Common::Manejar([this, paso] { (this->*paso)(); }); });
     };
     alPulsar(cmdCliente, &frmSolicitud::cmdCliente_Click);
     alPulsar(cmdFiador, &frmSolicitud::cmdFiador_Click);

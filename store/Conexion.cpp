@@ -260,9 +260,9 @@ void Conexion::prepararEscritura() {
     const Datos* titular = Datos::titulares().value(d.origen.toLower());
     if (titular && titular != &d)
         throw Fallo(FalloBaseOcupada,
-                    QStringLiteral("La base de datos está ocupada por una transacción abierta en otra "
-                                   "pantalla. Termine esa pantalla (Guardar o Cancelar) y vuelva a "
-                                   "intentarlo: aquí no se perdió nada."));
+                    QStringLiteral("La base de datos está ocupada: otra pantalla tiene estos datos en una "
+                                   "transacción abierta. Termine esa pantalla (Guardar o Cancelar) y "
+                                   "vuelva a intentarlo."));
     if (d.nivel == 0) return;
     d.ejecutarPropia(d.dialecto->inicioEscritura());
     d.tomarCerrojo();

@@ -15,8 +15,7 @@ Fallo falloDeBase(const QSqlError& e) {
     if (esBloqueo(e))
         return Fallo(FalloBaseOcupada,
                      QStringLiteral("La base de datos está ocupada: otra estación de trabajo u otra pantalla "
-                                    "tiene estos datos en uso. Espere un momento y vuelva a intentarlo; aquí "
-                                    "no se perdió nada."));
+                                    "tiene estos datos en uso. Espere un momento y vuelva a intentarlo."));
     return Fallo(FalloGeneral, textoError(e));
 }
 

@@ -78,37 +78,14 @@ void InstalarGanchoFatal(GanchoFatal nuevo) {
     gancho = std::move(nuevo);
 }
 
-namespace {
-
-shell::Formulario* pantallaConFoco() {
-    QWidget* w =
-        QApplication::focusWidget() ? QApplication::focusWidget()->window() : QApplication::activeWindow();
-    return qobject_cast<shell::Formulario*>(w);
-}
-
-void manejarEn(shell::Formulario* pantalla, const std::function<void()>& manejador) {
+void Manejar(const std::function<void()>& manejador) {
     try {
         manejador();
     } catch (const store::Fallo& fallo) {
-        if (fallo.numero() == store::FalloBaseOcupada && pantalla && !pantalla->descargado()) {
-            const auto* titulo = pantalla->findChild<QLabel*>(QStringLiteral("lblTitulo"));
-            MostrarMensaje(titulo ? titulo->text() : pantalla->windowTitle(), fallo.descripcion(), *pantalla);
-            return;
-        }
         FalloFatal(fallo);
     } catch (const std::exception& e) {
         FalloFatal(store::Fallo(store::FalloGeneral, QString::fromUtf8(e.what())));
     }
-}
-
-} // namespace
-
-void Manejar(const std::function<void()>& manejador) {
-    manejarEn(pantallaConFoco(), manejador);
-}
-
-void Manejar(shell::Formulario& pantalla, const std::function<void()>& manejador) {
-    manejarEn(&pantalla, manejador);
 }
 
 void Terminar() {

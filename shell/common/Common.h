@@ -72,12 +72,11 @@ void FalloFatal(const store::Fallo& fallo);
 using GanchoFatal = std::function<void(const store::Fallo&)>;
 void InstalarGanchoFatal(GanchoFatal gancho);
 
-// Every handler entry point runs through here, so that no exception crosses Qt's event loop. A
-// database busy with another connection's transaction (FalloBaseOcupada) is no fault of the program:
-// the clerk reads why through MostrarMensaje on the screen whose handler ran (given, or else the one
-// with the focus), and the screen stays as it was, its edit pending, for the step to be tried again.
+// Every handler entry point runs through here, so that no exception crosses Qt's event loop: a
+// failure the handler did not catch itself goes to FalloFatal. A database busy with another
+// connection's transaction (FalloBaseOcupada) is one of them; its text tells the clerk which screen
+// holds the data.
 void Manejar(const std::function<void()>& manejador);
-void Manejar(shell::Formulario& pantalla, const std::function<void()>& manejador);
 
 // Ends the program at once: no screen unloads, no question, no rollback. Tests install a hook that
 // records the end instead.

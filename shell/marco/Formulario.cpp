@@ -49,7 +49,7 @@ void Formulario::Move(double left, double top) {
 void Formulario::cargar() {
     if (cargado_) return;
     cargado_ = true;
-    Common::Manejar(*this, [this] { Form_Load(); });
+    Common::Manejar([this] { Form_Load(); });
 }
 
 void Formulario::Show() {
@@ -82,7 +82,7 @@ void Formulario::ShowModal() {
 bool Formulario::Unload() {
     if (descargado_) return true;
     bool cancelar = false;
-    Common::Manejar(*this, [&] { Form_QueryUnload(cancelar); });
+    Common::Manejar([&] { Form_QueryUnload(cancelar); });
     if (cancelar) return false;
     descargado_ = true;
     hide();

@@ -40,7 +40,7 @@ Marco::Marco(const QString& titulo, double ancho, double alto, QWidget* parent)
     cmdClose->setFocusPolicy(Qt::NoFocus);
     colocar(cmdClose, ancho - kAltoTitulo, 0, kAltoTitulo, kAltoTitulo);
     connect(cmdClose, &QPushButton::clicked, this,
-            [this] { Common::Manejar(*this, [this] { cmdClose_Click(); }); });
+            [this] { Common::Manejar([this] { cmdClose_Click(); }); });
 
     fraMain = new QFrame(this);
     fraMain->setObjectName(QStringLiteral("fraMain"));
@@ -106,7 +106,7 @@ QPushButton* Marco::crearBoton(int indice, const QString& caption, double left, 
         cmdBoton << nullptr;
     cmdBoton[indice] = boton;
     connect(boton, &QPushButton::clicked, this,
-            [this, indice] { Common::Manejar(*this, [this, indice] { cmdBoton_Click(indice); }); });
+            [this, indice] { Common::Manejar([this, indice] { cmdBoton_Click(indice); }); });
     return boton;
 }
 
