@@ -1,5 +1,6 @@
 #include "app/Registro.h"
 
+#include "cash/Caja.h"
 #include "catalogs/Catalogos.h"
 #include "credit/Credito.h"
 
@@ -8,6 +9,7 @@ namespace aplicacion {
 void RegistrarPantallas() {
     catalogos::registrarPantallas();
     credito::registrarPantallas();
+    caja::registrarPantallas();
 }
 
 } // namespace aplicacion

@@ -41,12 +41,12 @@ frmSolicitudArticulo::frmSolicitudArticulo()
     setObjectName(QStringLiteral("frmSolicitudArticulo"));
 
     // Each figure under its caption, left to right.
-    etiqueta(QStringLiteral("Descripción del artículo"), 120, 90, 4600);
+    lblRotuloNombre = etiqueta(QStringLiteral("Descripción del artículo"), 120, 90, 4600);
     lblNombre = cifra(fraMain, QStringLiteral("lblNombre"), QString(), Qt::AlignLeft, 120, 4600);
     etiqueta(QStringLiteral("Cantidad"), 4840, 90, 1000);
     txtCantidad = campo<CajaTexto>(QStringLiteral("txtCantidad"), 4840, 360, 1000);
     txtCantidad->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    etiqueta(QStringLiteral("Precio de venta"), 5960, 90, 1500);
+    lblRotuloPrecio = etiqueta(QStringLiteral("Precio de venta"), 5960, 90, 1500);
     txtPrecio = campo<CajaTexto>(QStringLiteral("txtPrecio"), 5960, 360, 1500);
     txtPrecio->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     txtPrecio->setText(QStringLiteral("0.00"));
@@ -76,6 +76,13 @@ void frmSolicitudArticulo::Form_Load() {
     const double margen = porcentaje > 0 ? porcentaje * costo / 100 : runtime::ValNulo(parametro(7));
     txtPrecio->setText(runtime::Format(margen + costo, kImporte));
     CalcularTotal();
+}
+
+void frmSolicitudArticulo::VestirComoConcepto() {
+    lblTitulo->setText(QStringLiteral("  Concepto de cobro"));
+    lblRotuloNombre->setText(QStringLiteral("Descripción del concepto de cobro"));
+    lblRotuloPrecio->setText(QStringLiteral("Valor"));
+    txtCantidad->setEnabled(false);
 }
 
 void frmSolicitudArticulo::CalcularTotal() {

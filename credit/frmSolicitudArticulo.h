@@ -22,7 +22,9 @@ class frmSolicitudArticulo : public shell::DialogoDeLinea {
 public:
     frmSolicitudArticulo();
 
+    QLabel* lblRotuloNombre;
     QLabel* lblNombre;
+    QLabel* lblRotuloPrecio;
     shell::CajaTexto* txtCantidad;
     shell::CajaTexto* txtPrecio;
     QLabel* lblPrecioTotal;
@@ -31,6 +33,11 @@ public:
     // and a figure of 0 or less told; focus moves on all the same.
     void txtCantidad_Validate();
     void txtPrecio_Validate();
+
+    // A charge concept instead of an article, as receipts show one: the title and the two captions
+    // speak of a concept and its value, and the quantity stays as it came. The dialog wears it until
+    // it unloads.
+    void VestirComoConcepto();
 
 protected:
     void Form_Load() override;

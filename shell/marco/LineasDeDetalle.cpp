@@ -36,7 +36,7 @@ void LineasDeDetalle::Tecla(int KeyCode, int Shift) {
 }
 
 void LineasDeDetalle::DobleClic() {
-    if (editando_) alEditar();
+    if (editando_ || dobleClicAlConsultar) alEditar();
 }
 
 void LineasDeDetalle::mostrarDialogo(bool atenuar) {

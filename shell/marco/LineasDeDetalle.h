@@ -45,6 +45,9 @@ public:
     // Whether editing a line (Enter, double click) dims the screen's title while the dialog stands;
     // adding one always does.
     bool atenuarAlEditar = true;
+    // Whether a double click edits a line while the screen browses too: a grid that stands outside
+    // the screen's frames stays live, and its dialog then changes only what the screen shows.
+    bool dobleClicAlConsultar = false;
 
     // The steps the screens compose.
     // Parametros reset to `elementos` empty elements, the dialog shown with the title dimmed around

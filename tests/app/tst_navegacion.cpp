@@ -53,7 +53,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Bancos", "frmBanco"},
                                                               {"Artículos", "frmArticulo"},
                                                               {"Créditos", "frmSolicitud"},
-                                                              {"Recibos", ""},
+                                                              {"Recibos", "frmRecibo"},
                                                               {"Facturas", ""},
                                                               {"Pagos", ""},
                                                               {"Ingresos", ""},
@@ -80,7 +80,8 @@ void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::addColumn<QString>("clave");
     QTest::addColumn<QString>("pantalla");
     QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
-    for (const char* clave : {"Recibos", "Facturas", "Ingresos", "Envios"})
+    QTest::newRow("Recibos") << QStringLiteral("Recibos") << QStringLiteral("frmRecibo");
+    for (const char* clave : {"Facturas", "Ingresos", "Envios"})
         QTest::newRow(clave) << QString::fromLatin1(clave) << QString();
 }
 

@@ -5,6 +5,7 @@
 
 #include "BaseDePrueba.h"
 #include "app/Registro.h"
+#include "cash/frmRecibo.h"
 #include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
 #include "catalogs/frmProveedor.h"
@@ -22,6 +23,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QTableView>
@@ -39,8 +41,10 @@ void guardar(const QPixmap& imagen, const QString& nombre) {
     escritos << ruta;
 }
 
-// Each modal screen shown is captured under the next name queued, then closed as its close box would;
-// the name kElegir instead picks the first row of a search, as a double click does.
+// Each modal screen shown is captured under the next name queued, then closed as its close box would.
+// Instead, kElegir (or "*" and a row number) picks the first (or that) row of a search or a pick
+// list, as a double click does; and "name|figure" captures a line dialog, then types the figure as
+// its price and accepts it.
 QStringList pendientes;
 const QString kElegir = QStringLiteral("*");
 
@@ -48,14 +52,20 @@ void capturarModales() {
     Common::InstalarConductorModal([](shell::Formulario& f) {
         QCoreApplication::processEvents();
         const QString nombre = pendientes.isEmpty() ? f.objectName() : pendientes.takeFirst();
-        if (nombre == kElegir) {
+        if (nombre.startsWith(kElegir)) {
             auto* rejilla = f.findChild<QTableView*>();
-            const QRect celda = rejilla->visualRect(rejilla->model()->index(0, 1));
+            const QRect celda = rejilla->visualRect(rejilla->model()->index(nombre.mid(1).toInt(), 1));
             QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
             return;
         }
-        guardar(f.grab(), nombre);
-        f.Unload();
+        const QStringList partes = nombre.split(QLatin1Char('|'));
+        guardar(f.grab(), partes.first());
+        if (partes.size() == 1) {
+            f.Unload();
+            return;
+        }
+        f.findChild<QLineEdit*>(QStringLiteral("txtPrecio"))->setText(partes.last());
+        QTest::mouseClick(f.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
     });
 }
 
@@ -204,6 +214,40 @@ int main(int argc, char* argv[]) {
     QTest::keyClick(solicitud.fgDetalle, Qt::Key_Insert); // an article, its dialog captured
     QCoreApplication::processEvents();
     guardar(solicitud.grab(), QStringLiteral("frmSolicitud-editando"));
+
+    QTest::mouseClick(solicitud.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // The first receipt found; then a new one for application 2: its balances, the instalment
+    // proposed, a line of "Flete" through the dialog dressed for a concept, and 1,000.00 in cash.
+    auto& recibo = Common::Pantalla<caja::frmRecibo>();
+    recibo.Show();
+    recibo.move(10, 10);
+    pendientes << kElegir;
+    QTest::mouseClick(recibo.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(recibo.grab(), QStringLiteral("frmRecibo-consultando"));
+    QTest::mouseClick(recibo.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    // Each modal shown leaves no window active; the receipt is made active again before typing, so
+    // that leaving a field runs its validate step.
+    const auto escribirYSalir = [&recibo](QWidget* campo, const QString& texto) {
+        QApplication::setActiveWindow(&recibo);
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(campo, texto);
+        QTest::keyClick(campo, Qt::Key_Tab);
+    };
+    escribirYSalir(recibo.txtNumeroSolicitud, QStringLiteral("2")); // the application loaded
+    recibo.fgDetalle->setFocus();
+    pendientes << kElegir; // "Cuota mensual", first in the list
+    QTest::keyClick(recibo.fgDetalle, Qt::Key_Insert);
+    pendientes << QStringLiteral("*2") << QStringLiteral("frmSolicitudArticulo-concepto|150"); // "Flete"
+    QTest::keyClick(recibo.fgDetalle, Qt::Key_Insert);
+    escribirYSalir(recibo.panBanco->txtEfectivo, QStringLiteral("1000"));
+    recibo.txtConcepto->setFocus();
+    QTest::keyClicks(recibo.txtConcepto, QStringLiteral("Cuota de noviembre"));
+    QCoreApplication::processEvents();
+    guardar(recibo.grab(), QStringLiteral("frmRecibo-editando"));
+    QTest::mouseClick(recibo.cmdBoton[6], Qt::LeftButton); // "Cancelar"
 
     // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
     // one unit; opened at its caller's Left + 300, Top + 300.

@@ -1,0 +1,14 @@
+#include "cash/Caja.h"
+
+#include "cash/frmRecibo.h"
+#include "shell/common/Common.h"
+#include "shell/principal/frmMain.h"
+
+namespace caja {
+
+void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmRecibo"),
+                                      [] { Common::Pantalla<frmRecibo>().Show(); });
+}
+
+} // namespace caja
