@@ -9,8 +9,6 @@
 #include "store/Numeracion.h"
 #include "store/Recordset.h"
 
-#include <exception>
-
 using namespace shell;
 
 namespace caja {
@@ -211,7 +209,7 @@ void frmRecibo::Guardar() {
 // and nothing is undone: the transaction stays open with what was written so far, and the screen
 // keeps editing, for a second "Guardar" (which starts over) or "Cancelar".
 bool frmRecibo::GuardarRecibo() {
-    try {
+    return AvisarSiFalla([this] {
         store::Recordset& rs = *adoRecibos->Recordset();
         panBanco->EscribirEnFila(rs);
         rs.Fields(QStringLiteral("Fecha")) = runtime::TextoFecha(dpFecha->Value());
@@ -233,13 +231,7 @@ bool frmRecibo::GuardarRecibo() {
         }
         Common::DE().CN.CommitTrans();
         Common::TransaccionActiva = 0;
-        return true;
-    } catch (const store::Fallo& fallo) {
-        Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
-    } catch (const std::exception& e) {
-        Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
-    }
-    return false;
+    });
 }
 
 // A number already taken is told and the field goes back to the number the edit started from; a free

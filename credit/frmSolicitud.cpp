@@ -281,7 +281,8 @@ bool frmSolicitud::ValidarSolicitud() {
 // stops here with the transaction open: what was written so far stays pending, for a second "Guardar"
 // (which starts over) or "Cancelar" (which rolls it all back).
 bool frmSolicitud::GuardarSolicitud() {
-    try {
+    bool guardada = false;
+    AvisarSiFalla([this, &guardada] {
         txtFecha->setText(runtime::TextoFecha(dpFecha->Value()));
         const auto meses = [](const CajaTexto* anios, const CajaTexto* resto) {
             return runtime::TextoDe(runtime::Val(anios->Text()) * 12 + runtime::Val(resto->Text()));
@@ -300,7 +301,7 @@ bool frmSolicitud::GuardarSolicitud() {
             const QString precio = fgDetalle->TextMatrix(fila, 3);
             if (!Common::ValidarVentaArticulo(*this, runtime::CLng(runtime::Val(articulo)),
                                               runtime::CLng(runtime::Val(cantidad)), runtime::Val(precio)))
-                return false;
+                return;
             Common::DE().CN.Execute(QStringLiteral("Insert Into SolicitudDetalle ") +
                                     QStringLiteral("(SolicitudID, ArticuloID, Cantidad, Precio) ") +
                                     QStringLiteral("VALUES ") + QStringLiteral("(") + clave +
@@ -309,13 +310,9 @@ bool frmSolicitud::GuardarSolicitud() {
         }
         Common::DE().CN.CommitTrans();
         Common::TransaccionActiva = 0;
-        return true;
-    } catch (const store::Fallo& fallo) {
-        Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
-    } catch (const std::exception& e) {
-        Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
-    }
-    return false;
+        guardada = true;
+    });
+    return guardada;
 }
 
 // Saved, the screen browses again; the status word stays as it was until the next search.

@@ -37,7 +37,7 @@ void frmSolicitud::ConfigurarDetalle() {
 // The lines of the application shown, quantities with two decimals, then the plan. A failure is told
 // and ends the reading.
 void frmSolicitud::CargarDetalle() {
-    try {
+    AvisarSiFalla([this] {
         store::Recordset rs;
         rs.Open(QStringLiteral(
                     "Select SD.SolicitudID, SD.ArticuloID, SD.Cantidad, A.Nombre & ' ' & A.Modelo & ' ' "
@@ -59,11 +59,7 @@ void frmSolicitud::CargarDetalle() {
         }
         if (fgDetalle->Rows() > 2) fgDetalle->RemoveItem(1);
         MostrarPlan();
-    } catch (const store::Fallo& fallo) {
-        Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
-    } catch (const std::exception& e) {
-        Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
-    }
+    });
 }
 
 // The line dialog, at the screen's Left + 300, Top + 300.

@@ -51,14 +51,16 @@ void PantallaRegistro::ModoConsulta() {
     HabilitarEdicion(false);
 }
 
-void PantallaRegistro::ConManejadorDeBarra(const std::function<void()>& paso) {
+bool PantallaRegistro::AvisarSiFalla(const std::function<void()>& paso) {
     try {
         paso();
+        return true;
     } catch (const store::Fallo& fallo) {
         Common::MostrarMensaje(lblTitulo->text(), fallo.descripcion(), *this);
     } catch (const std::exception& e) {
         Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
     }
+    return false;
 }
 
 // "Aceptar" undoes the open transaction (the counter first) and lets the screen close; any other

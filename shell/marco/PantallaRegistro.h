@@ -42,7 +42,11 @@ protected:
     // The bar's error handler of the screens that have one: a step that fails shows the driver's text
     // through MostrarMensaje with the screen's title, and the screen stays in its mode, its row as it
     // was (a refused "Guardar" leaves the edit pending for a second try or "Cancelar").
-    void ConManejadorDeBarra(const std::function<void()>& paso);
+    void ConManejadorDeBarra(const std::function<void()>& paso) { AvisarSiFalla(paso); }
+    // Runs a step whose failure the screen tells rather than ending the program (a save, a reading
+    // that may fail): the driver's text through MostrarMensaje with the screen's title. True when the
+    // step ran through.
+    bool AvisarSiFalla(const std::function<void()>& paso);
     void Form_QueryUnload(bool& cancelar) override;
 
 private:
