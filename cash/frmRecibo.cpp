@@ -151,6 +151,7 @@ void frmRecibo::Agregar() {
     txtNumeroSolicitud->setTag(QStringLiteral("0"));
     txtNumeroSolicitud->setText(QStringLiteral("0"));
     lblTotal->setText(QStringLiteral("0.00"));
+    panBanco->CalcularVuelto();
     panBanco->SinBanco();
     SolicitudID = 0;
     ClienteID = 0;

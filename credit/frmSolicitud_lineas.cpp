@@ -12,7 +12,6 @@
 #include "shell/dialogos/Dialogos.h"
 #include "store/Recordset.h"
 
-#include <exception>
 
 using namespace shell;
 
