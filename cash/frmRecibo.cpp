@@ -152,7 +152,11 @@ void frmRecibo::Agregar() {
     txtNumeroRecibo->setTag(QString());
     txtNumeroSolicitud->setTag(QStringLiteral("0"));
     txtNumeroSolicitud->setText(QStringLiteral("0"));
-    lblTotal->setText(QStringLiteral("0.00"));
+    // A total that changes works the change out again; "Total recibido:" keeps its figure.
+    if (lblTotal->text() != QLatin1String("0.00")) {
+        lblTotal->setText(QStringLiteral("0.00"));
+        panBanco->CalcularVuelto();
+    }
     panBanco->SinBanco();
     SolicitudID = 0;
     ClienteID = 0;

@@ -172,7 +172,8 @@ void TstFrmReciboPago::pago() {
     }
 }
 
-// "Total recibido:" keeps the last sum worked out. After a receipt paid with 100.00 in cash, a new
+// "Total recibido:" keeps the last sum worked out. After a receipt paid with 100.00 in cash, "Agregar"
+// brings "Total a pagar:" back to 0.00, and with it the change, but not "Total recibido:": a new
 // receipt of 100.00 whose tender is never touched passes the test of the tender on that old figure
 // and is stored with no cash, its change the whole total short.
 void TstFrmReciboPago::totalRecibidoDelReciboAnterior() {
@@ -183,8 +184,11 @@ void TstFrmReciboPago::totalRecibidoDelReciboAnterior() {
     pulsar("Guardar");
     QCOMPARE(db(kPagoGuardado + "9"), QStringLiteral("0||0.00|100.00|0.00"));
 
-    r_->nuevoPara(QStringLiteral("41"));
+    pulsar("Agregar");
+    QCOMPARE(p.lblTotal->text(), QStringLiteral("0.00"));
+    QCOMPARE(p.panBanco->lblVuelto->text(), QStringLiteral("0.00")); // the total changed: worked out again
     QCOMPARE(p.panBanco->lblTotalRecibido->text(), QStringLiteral("100.00"));
+    escribir(p.txtNumeroSolicitud, QStringLiteral("41"));
     r_->insertarConcepto(QStringLiteral("Cuota mensual"));
     QCOMPARE(p.lblTotal->text(), QStringLiteral("100.00"));
     pulsar("Guardar");
