@@ -2,6 +2,7 @@
 // deleting, and turns every failure of its bar into the driver's text for the clerk.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "ProgramaDePrueba.h"
 #include "catalogs/frmProveedor.h"
 
@@ -25,7 +26,7 @@ private:
     frmProveedor& pantalla();
     void pulsar(const QString& caption);
     void elegirEnLaLista(int fila);
-    void responder(const QString& boton, QString* texto = nullptr);
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
     std::unique_ptr<BaseDePrueba> base_;
     std::unique_ptr<EntornoDePantallas> entorno_;
     std::unique_ptr<ProgramaDePrueba> programa_;
@@ -63,17 +64,6 @@ void TstFrmProveedor::elegirEnLaLista(int fila) {
         QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {},
                           rejilla->visualRect(rejilla->model()->index(fila, 1)).center());
         QTest::mouseClick(lista.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
-    });
-}
-
-// Answers the next dialog with one of its buttons (or its close box), keeping its text.
-void TstFrmProveedor::responder(const QString& boton, QString* texto) {
-    entorno_->alMostrarModal([boton, texto](shell::Formulario& d) {
-        if (texto)
-            for (const char* nombre : {"lblPregunta", "lblMensaje"})
-                if (auto* l = d.findChild<QLabel*>(QLatin1String(nombre))) *texto = l->text();
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == boton || b->objectName() == boton) return QTest::mouseClick(b, Qt::LeftButton);
     });
 }
 

@@ -2,9 +2,6 @@
 
 #include "credit/frmSolicitudArticulo.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QTableView>
 #include <QtTest>
 
 using credito::frmSolicitud;
@@ -64,39 +61,6 @@ void SolicitudEnPantalla::pulsar(const QString& caption) {
     if (!p.descargado() && p.isVisible()) activar(p); // back from whatever it opened
 }
 
-void SolicitudEnPantalla::activar(QWidget& ventana) {
-    ventana.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana))
-        qWarning("%s did not become active", qPrintable(ventana.objectName()));
-}
-
-void SolicitudEnPantalla::escribir(QWidget* caja, const QString& texto) {
-    caja->setFocus();
-    if (auto* linea = qobject_cast<QLineEdit*>(caja)) linea->selectAll();
-    if (texto.isEmpty())
-        QTest::keyClick(caja, Qt::Key_Delete);
-    else
-        teclear(caja, texto);
-    QTest::keyClick(caja, Qt::Key_Tab);
-}
-
-void SolicitudEnPantalla::elegir(const QString& celda) {
-    entorno_->alMostrarModal([celda](shell::Formulario& busca) {
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
-        auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
-        const QAbstractItemModel* m = rejilla->model();
-        if (!celda.isEmpty())
-            for (int f = 0; f < m->rowCount(); ++f)
-                for (int c = 0; c < m->columnCount(); ++c)
-                    if (m->index(f, c).data().toString() == celda) {
-                        QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {},
-                                           rejilla->visualRect(m->index(f, c)).center());
-                        return;
-                    }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-    });
-}
-
 void SolicitudEnPantalla::buscarSolicitud(const QString& numero) {
     elegir(numero);
     pulsar(QStringLiteral("Buscar"));
@@ -142,54 +106,16 @@ void SolicitudEnPantalla::insertarLinea(const QString& articulo, const QString& 
 
 void SolicitudEnPantalla::tecla(Qt::Key k, int fila) {
     auto& p = pantalla();
-    activar(p);
-    p.fgDetalle->setFocus();
-    p.fgDetalle->setRow(fila);
-    QTest::keyClick(p.fgDetalle, k);
-    activar(p);
+    teclaEnGrilla(p, *p.fgDetalle, k, fila);
 }
 
 void SolicitudEnPantalla::dobleClic(int fila) {
     auto& p = pantalla();
-    activar(p);
-    QTest::mouseDClick(p.fgDetalle->viewport(), Qt::LeftButton, {},
-                       p.fgDetalle->visualItemRect(p.fgDetalle->item(fila - 1, 1)).center());
-    activar(p);
+    dobleClicEnGrilla(p, *p.fgDetalle, fila);
 }
 
 QStringList SolicitudEnPantalla::filas() {
-    auto& p = pantalla();
-    QStringList r;
-    for (int f = 1; f < p.fgDetalle->Rows(); ++f) {
-        QStringList celdas;
-        for (int c = 0; c < p.fgDetalle->Cols(); ++c)
-            celdas << p.fgDetalle->TextMatrix(f, c);
-        r << celdas.join(u'|');
-    }
-    return r;
-}
-
-void SolicitudEnPantalla::responder(const QString& boton, QString* texto) {
-    entorno_->alMostrarModal([boton, texto](shell::Formulario& d) {
-        if (texto)
-            for (const char* nombre : {"lblPregunta", "lblMensaje"})
-                if (auto* l = d.findChild<QLabel*>(QLatin1String(nombre))) *texto = l->text();
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == boton || b->objectName() == boton) return QTest::mouseClick(b, Qt::LeftButton);
-        QFAIL(qPrintable("the dialog has no button " + boton));
-    });
-}
-
-void SolicitudEnPantalla::responderTexto(const QString& texto) {
-    entorno_->alMostrarModal([texto](shell::Formulario& d) {
-        activar(d);
-        auto* caja = d.findChild<QLineEdit*>(QStringLiteral("txtTexto"));
-        caja->setFocus();
-        caja->selectAll();
-        teclear(caja, texto);
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == QLatin1String("Aceptar")) return QTest::mouseClick(b, Qt::LeftButton);
-    });
+    return filasDe(*pantalla().fgDetalle);
 }
 
 void SolicitudEnPantalla::llenarNueva(const QStringList& articulos) {

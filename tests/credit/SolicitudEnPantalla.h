@@ -1,11 +1,12 @@
 #pragma once
 
 // What the two test programs of the credit application share: the store's rows before each test,
-// the screen opened from "Créditos" as the clerk opens it, and the clerk's gestures on it (the bar,
-// the searches answered by a double click on a row, a line added through Insert and its dialog, the
-// dialogs answered by their buttons).
+// the screen opened from "Créditos" as the clerk opens it, and the clerk's gestures on this screen
+// (the bar, the client and guarantor searches, a line added through Insert and its dialog), made of
+// the shared gestures of Gestos.h.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "ProgramaDePrueba.h"
 #include "credit/frmSolicitud.h"
 #include "runtime/Fechas.h"
@@ -43,14 +44,8 @@ public:
     credito::frmSolicitud& pantalla();
     void pulsar(const QString& caption);
 
-    // The window takes the keyboard, as the one in front does.
-    static void activar(QWidget& ventana);
-    // Into a box as the clerk does: focus, what it held selected and typed over, Tab to leave it.
-    static void escribir(QWidget* caja, const QString& texto);
-
-    // The next search screen answered: "&Buscar" with no filter, then a double click on the first
-    // row with a cell that reads `celda`; the close box when none does (or `celda` is empty).
-    void elegir(const QString& celda);
+    // The next search screen answered by a row with this cell (elegirEnBusqueda).
+    void elegir(const QString& celda) { elegirEnBusqueda(*entorno_, celda); }
     // "Buscar" on the screen, picking the application of this number.
     void buscarSolicitud(const QString& numero);
     // "Cliente >" and "Fiador >", picking by a cell of the search (a surname, a name), or cancelling.
@@ -75,9 +70,9 @@ public:
     QStringList filas();
 
     // The next dialog answered by a button of this caption (or "cmdClose"); its text kept in `texto`.
-    void responder(const QString& boton, QString* texto = nullptr);
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
     // The next text prompt answered with this text and "Aceptar".
-    void responderTexto(const QString& texto);
+    void responderTexto(const QString& texto) { ::responderTexto(*entorno_, texto); }
 
     // "Agregar", then everything an application needs: client ANA LUCÍA, guarantor MARIO, the
     // relation, and the given lines (articles by name, each added with its proposed quantity and

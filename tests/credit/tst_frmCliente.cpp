@@ -4,6 +4,7 @@
 // makes.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "ProgramaDePrueba.h"
 #include "credit/frmCliente.h"
 #include "credit/frmHistorial.h"
@@ -44,8 +45,6 @@ private:
     frmCliente& pantalla();
     void pulsar(const QString& caption);
     frmCliente& buscar(const QString& apellidos);
-    // Types into a box as the clerk does (what it held selected and replaced) and leaves it with Tab.
-    void escribir(QWidget* caja, const QString& texto);
     // Queues the history dialog's action: these values typed (the value field left with Tab, so a
     // value of 0 or less shows its message, which the test queues after this) and the dialog closed
     // with `cierre` ("&Aceptar", "&Cancelar" or "cmdClose").
@@ -56,9 +55,6 @@ private:
     QColor tituloMientras_; // the screen's title strip while the dialog stood
     QStringList filas();
     QString db(const QString& consulta) { return base_->valor(consulta); }
-    // The window takes the keyboard, as the one in front does: focus moves (and fields are left) only
-    // in the active window.
-    static void activar(QWidget& ventana);
     std::unique_ptr<BaseDePrueba> base_;
     std::unique_ptr<EntornoDePantallas> entorno_;
     std::unique_ptr<ProgramaDePrueba> programa_;
@@ -97,37 +93,12 @@ void TstFrmCliente::pulsar(const QString& caption) {
 // "Buscar": the whole list, and a double click on the row of the surname.
 frmCliente& TstFrmCliente::buscar(const QString& apellidos) {
     auto& p = pantalla();
-    entorno_->alMostrarModal([apellidos](shell::Formulario& busca) {
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
-        auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
-        const QAbstractItemModel* m = rejilla->model();
-        for (int f = 0; f < m->rowCount(); ++f)
-            for (int c = 0; c < m->columnCount(); ++c)
-                if (m->index(f, c).data().toString() == apellidos) {
-                    QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {},
-                                       rejilla->visualRect(m->index(f, c)).center());
-                    return;
-                }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-    });
+    elegirEnBusqueda(*entorno_, apellidos);
     pulsar("Buscar");
     activar(p); // back from the search, the screen takes the keyboard again
     entorno_->modalesMostradas.clear();
     entorno_->titulosModales.clear();
     return p;
-}
-
-void TstFrmCliente::activar(QWidget& ventana) {
-    ventana.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana))
-        qWarning("%s did not become active", qPrintable(ventana.objectName()));
-}
-
-void TstFrmCliente::escribir(QWidget* caja, const QString& texto) {
-    caja->setFocus();
-    if (auto* linea = qobject_cast<QLineEdit*>(caja)) linea->selectAll();
-    teclear(caja, texto);
-    QTest::keyClick(caja, Qt::Key_Tab);
 }
 
 void TstFrmCliente::llenarDialogo(const QString& fecha, const QString& descripcion, const QString& valor,
@@ -162,15 +133,7 @@ void TstFrmCliente::tecla(Qt::Key k) {
 
 // The grid's data rows, cells joined by "|".
 QStringList TstFrmCliente::filas() {
-    auto& p = pantalla();
-    QStringList r;
-    for (int f = 1; f < p.fgDetalle->Rows(); ++f) {
-        QStringList celdas;
-        for (int c = 0; c < p.fgDetalle->Cols(); ++c)
-            celdas << p.fgDetalle->TextMatrix(f, c);
-        r << celdas.join(u'|');
-    }
-    return r;
+    return filasDe(*pantalla().fgDetalle);
 }
 
 // Each letter counts from 1 by itself: two surnames with G after the G1 on file, then one with H.
@@ -311,11 +274,7 @@ void TstFrmCliente::lineaPorElDialogo() {
     pulsar("Modificar");
     llenarDialogo(fecha, QStringLiteral("Estufa"), valor, QStringLiteral("Bueno"), cierre);
     QString texto;
-    if (mensaje)
-        entorno_->alMostrarModal([&](shell::Formulario& m) {
-            texto = m.findChild<QLabel*>(QStringLiteral("lblMensaje"))->text();
-            QTest::mouseClick(m.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-        });
+    if (mensaje) responder(*entorno_, QStringLiteral("cmdClose"), &texto);
     tecla(Qt::Key_Insert);
     QCOMPARE(entorno_->modalesSinAccion, 0);
     const QStringList mostradas =
@@ -495,15 +454,9 @@ void TstFrmCliente::eliminarQueFallaMuestraElTexto() {
     QFETCH(QString, texto);
     base_->sqlite("INSERT INTO Solicitud (NumeroSolicitud, ClienteID) VALUES (1, 1);");
     auto& p = conCliente ? buscar("GONZÁLEZ") : pantalla();
-    entorno_->alMostrarModal([&](shell::Formulario& d) {
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == opcion) QTest::mouseClick(b, Qt::LeftButton);
-    });
+    responder(*entorno_, opcion);
     QString mensaje;
-    entorno_->alMostrarModal([&](shell::Formulario& m) {
-        mensaje = m.findChild<QLabel*>(QStringLiteral("lblMensaje"))->text();
-        QTest::mouseClick(m.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-    });
+    responder(*entorno_, QStringLiteral("cmdClose"), &mensaje);
     pulsar("Eliminar");
     QCOMPARE(entorno_->modalesMostradas, (QStringList{"frmOpcion", "frmMensaje"}));
     QCOMPARE(entorno_->titulosModales.last(), QStringLiteral("Clientes"));

@@ -3,6 +3,7 @@
 // refuses a step, and stores the birth date and the times as the picker and the boxes show them.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "ProgramaDePrueba.h"
 #include "credit/frmFiador.h"
 #include "runtime/Fechas.h"
@@ -41,8 +42,7 @@ private:
     frmFiador& pantalla();
     void pulsar(const QString& caption);
     void buscar(const QString& nombres, int* filas = nullptr);
-    void responder(const QString& boton, QString* texto = nullptr);
-    void escribir(QWidget* caja, const QString& texto);
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
     QString fiador(const QString& nombres, const QString& columnas) const;
     std::unique_ptr<runtime::RelojFijo> reloj_;
     std::unique_ptr<BaseDePrueba> base_;
@@ -96,26 +96,7 @@ void TstFrmFiador::buscar(const QString& nombres, int* filas) {
     });
     pulsar("Buscar");
     QCOMPARE(entorno_->titulosModales.last(), QStringLiteral("Busca fiador"));
-    p.activateWindow();
-    if (!QTest::qWaitForWindowActive(&p)) qWarning("the guarantor screen did not become active");
-}
-
-// Answers the next dialog with one of its buttons (or its close box), keeping its text.
-void TstFrmFiador::responder(const QString& boton, QString* texto) {
-    entorno_->alMostrarModal([boton, texto](shell::Formulario& d) {
-        if (texto)
-            for (const char* nombre : {"lblPregunta", "lblMensaje"})
-                if (auto* l = d.findChild<QLabel*>(QLatin1String(nombre))) *texto = l->text();
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == boton || b->objectName() == boton) return QTest::mouseClick(b, Qt::LeftButton);
-    });
-}
-
-// Into a field as the clerk does: it takes the focus, the text is typed, Tab leaves it.
-void TstFrmFiador::escribir(QWidget* caja, const QString& texto) {
-    caja->setFocus();
-    teclear(caja, texto);
-    QTest::keyClick(caja, Qt::Key_Tab);
+    activar(p);
 }
 
 QString TstFrmFiador::fiador(const QString& nombres, const QString& columnas) const {

@@ -303,12 +303,11 @@ void TstFrmSolicitud::validarSolicitud() {
     pulsar("Agregar");
     if (!omitir("cliente")) s_->elegirCliente(QStringLiteral("GONZÁLEZ"));
     if (!omitir("fiador")) s_->elegirFiador(QStringLiteral("MARIO"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco,
-                                  omitir("parentesco") ? QStringLiteral("   ") : QStringLiteral("hermano"));
-    if (omitir("numero")) SolicitudEnPantalla::escribir(p.txtNumeroSolicitud, QString());
+    escribir(p.txtFiadorParentesco, omitir("parentesco") ? QStringLiteral("   ") : QStringLiteral("hermano"));
+    if (omitir("numero")) escribir(p.txtNumeroSolicitud, QString());
     if (!omitir("articulos")) s_->insertarLinea(QStringLiteral("ESTUFA"));
-    if (omitir("meses")) SolicitudEnPantalla::escribir(p.txtMesesCredito, QStringLiteral("0"));
-    if (omitir("dia")) SolicitudEnPantalla::escribir(p.txtDiaPago, QString());
+    if (omitir("meses")) escribir(p.txtMesesCredito, QStringLiteral("0"));
+    if (omitir("dia")) escribir(p.txtDiaPago, QString());
     QString texto;
     s_->responder(QStringLiteral("cmdClose"), &texto);
     const int mostradas = s_->entorno().modalesMostradas.size();
@@ -370,7 +369,7 @@ void TstFrmSolicitud::agregarPropone() {
     QCOMPARE(p.txtNumeroSolicitud->text(), numero);
     s_->elegirCliente(QStringLiteral("GONZÁLEZ"));
     s_->elegirFiador(QStringLiteral("ROSA"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("tía"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("tía"));
     s_->insertarLinea(QStringLiteral("ESTUFA"));
     pulsar("Guardar");
     QCOMPARE(db("SELECT NumeroSolicitud || '|' || MesesCredito || '|' || DiaPago || '|' || Fecha FROM "
@@ -512,8 +511,8 @@ void TstFrmSolicitud::decididaSePuedeModificar() {
     QCOMPARE(p.panEstado->text(), palabra);
     pulsar("Modificar");
     verificarEdicion(QStringLiteral("Modificar registro actual"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("tía"));
-    SolicitudEnPantalla::escribir(p.txtMesesCredito, QStringLiteral("18"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("tía"));
+    escribir(p.txtMesesCredito, QStringLiteral("18"));
     pulsar("Guardar");
     verificarConsulta();
     QCOMPARE(db("SELECT Estado || '|' || FiadorParentesco || '|' || MesesCredito FROM Solicitud WHERE "
@@ -554,7 +553,7 @@ void TstFrmSolicitud::tiemposEnMeses() {
     const QList<shell::CajaTexto*> cajas{p.txtCasaTiempoA, p.txtCasaTiempoM, p.txtTrabajoTiempoA,
                                          p.txtTrabajoTiempoM};
     for (int i = 0; i < cajas.size(); ++i)
-        SolicitudEnPantalla::escribir(cajas[i], tecleado[i]);
+        escribir(cajas[i], tecleado[i]);
     pulsar("Guardar");
     verificarConsulta();
     QCOMPARE(db("SELECT CasaTiempo || '|' || TrabajoTiempo FROM Solicitud WHERE NumeroSolicitud = 42"),
@@ -694,10 +693,10 @@ void TstFrmSolicitud::modificarSinSolicitud() {
     verificarEdicion(QStringLiteral("Modificar registro actual"));
     s_->elegirCliente(QStringLiteral("GONZÁLEZ"));
     s_->elegirFiador(QStringLiteral("MARIO"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("hermano"));
-    SolicitudEnPantalla::escribir(p.txtNumeroSolicitud, QStringLiteral("57"));
-    SolicitudEnPantalla::escribir(p.txtMesesCredito, QStringLiteral("12"));
-    SolicitudEnPantalla::escribir(p.txtDiaPago, QStringLiteral("5"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("hermano"));
+    escribir(p.txtNumeroSolicitud, QStringLiteral("57"));
+    escribir(p.txtMesesCredito, QStringLiteral("12"));
+    escribir(p.txtDiaPago, QStringLiteral("5"));
     s_->insertarLinea(QStringLiteral("ESTUFA"));
     QString texto;
     s_->responder(QStringLiteral("cmdClose"), &texto);
@@ -739,7 +738,7 @@ void TstFrmSolicitud::cerrarConTransaccion() {
     s_->buscarSolicitud(QStringLiteral("40"));
     if (!modo.isEmpty()) {
         pulsar(modo);
-        SolicitudEnPantalla::escribir(p->txtFiadorParentesco, QStringLiteral("vecino"));
+        escribir(p->txtFiadorParentesco, QStringLiteral("vecino"));
     }
     QString pregunta;
     if (!respuesta.isEmpty()) s_->responder(respuesta, &pregunta);
@@ -872,7 +871,7 @@ void TstFrmSolicitud::clienteInsuficiente() {
     }
     // Editing, the key is enough for "Guardar" to go past the client.
     s_->elegirFiador(QStringLiteral("ROSA"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("hijo"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("hijo"));
     QString mensaje;
     s_->responder(QStringLiteral("cmdClose"), &mensaje);
     pulsar("Guardar");
@@ -891,19 +890,19 @@ void TstFrmSolicitud::clienteCompletadoConfirmaLaTransaccion() {
     s_->responder(QStringLiteral("cmdClose"));
     s_->entorno().alMostrarModal([](shell::Formulario& f) {
         auto& c = static_cast<frmCliente&>(f);
-        SolicitudEnPantalla::activar(c);
-        SolicitudEnPantalla::escribir(c.txtLimite, QStringLiteral("3000"));
+        activar(c);
+        escribir(c.txtLimite, QStringLiteral("3000"));
         pulsarBoton(c.cmdBoton, QStringLiteral("Guardar"));
     });
     QTest::mouseClick(p.cmdCliente, Qt::LeftButton);
-    SolicitudEnPantalla::activar(p);
+    activar(p);
     QCOMPARE(s_->entorno().modalesMostradas.last(), QStringLiteral("frmCliente"));
     QCOMPARE(Common::TransaccionActiva, 0L);
     QCOMPARE(Common::DE().CN.nivelTransaccion(), 0);
     QCOMPARE(db("SELECT printf('%.2f', Limite) FROM Cliente WHERE ClienteID = 2"), QStringLiteral("3000.00"));
     QCOMPARE(textos(p.lblClienteInfo), QStringList(7, QString())); // not read again
     s_->elegirFiador(QStringLiteral("MARIO"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("primo"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("primo"));
     s_->insertarLinea(QStringLiteral("ESTUFA"));
     QString texto;
     s_->responder(QStringLiteral("cmdClose"), &texto);
@@ -1073,7 +1072,7 @@ void TstFrmSolicitud::clientePendienteNoSeVe() {
         });
     }
     QTest::mouseClick(p.cmdCliente, Qt::LeftButton);
-    SolicitudEnPantalla::activar(p);
+    activar(p);
     QCOMPARE(textos(p.lblClienteInfo), panel);
     QCOMPARE(texto, suficiente ? QString() : kInsuficiente);
     QCOMPARE(s_->entorno().modalesMostradas.size(), suficiente ? 1 : 3);
@@ -1097,7 +1096,7 @@ void TstFrmSolicitud::fiadorNuevo() {
         QTest::mouseClick(c.cmdClose, Qt::LeftButton);
     });
     QTest::mouseClick(p.cmdNuevoCliente, Qt::LeftButton);
-    SolicitudEnPantalla::activar(p);
+    activar(p);
     QCOMPARE(clienteAbrir, 0L);
     QCOMPARE(p.lblClienteInfo[0]->text(), QStringLiteral("ANA LUCÍA GONZÁLEZ"));
     QCOMPARE(p.txtClienteID->text(), QStringLiteral("1"));
@@ -1107,19 +1106,19 @@ void TstFrmSolicitud::fiadorNuevo() {
     s_->entorno().alMostrarModal([&](shell::Formulario& f) {
         auto& fiador = static_cast<frmFiador&>(f);
         lugar = QPointF(fiador.Left() - p.Left(), fiador.Top() - p.Top());
-        SolicitudEnPantalla::activar(fiador);
+        activar(fiador);
         pulsarBoton(fiador.cmdBoton, QStringLiteral("Agregar"));
         teclear(fiador.txtNombres, QStringLiteral("carlos"));
-        SolicitudEnPantalla::escribir(fiador.txtApellidos, QStringLiteral("ruiz"));
+        escribir(fiador.txtApellidos, QStringLiteral("ruiz"));
         fiador.dacEstadoCivil->setFocus();
         QTest::keyClicks(fiador.dacEstadoCivil, QStringLiteral("Viudo(a)"));
         estadoCivil = fiador.dacEstadoCivil->Text();
-        SolicitudEnPantalla::escribir(fiador.txtTelefonos, QStringLiteral("5544-3322"));
+        escribir(fiador.txtTelefonos, QStringLiteral("5544-3322"));
         pulsarBoton(fiador.cmdBoton, QStringLiteral("Guardar"));
         QTest::mouseClick(fiador.cmdClose, Qt::LeftButton);
     });
     QTest::mouseClick(p.cmdNuevoFiador, Qt::LeftButton);
-    SolicitudEnPantalla::activar(p);
+    activar(p);
     QCOMPARE(s_->entorno().modalesMostradas.last(), QStringLiteral("frmFiador"));
     QCOMPARE(estadoCivil, QStringLiteral("Viudo(a)"));
     QVERIFY2(qAbs(lugar.x() - 300) < 20 && qAbs(lugar.y() - 300) < 20,
@@ -1133,7 +1132,7 @@ void TstFrmSolicitud::fiadorNuevo() {
     QCOMPARE(p.lblFiadorInfo[0]->text(), QStringLiteral("CARLOS RUIZ"));
     QCOMPARE(p.lblFiadorInfo[5]->text(), QStringLiteral("Viudo(a)"));
     QCOMPARE(p.lblFiadorInfo[8]->text(), QStringLiteral("5544-3322"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("amigo"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("amigo"));
     s_->insertarLinea(QStringLiteral("REFRIGERADORA"));
     pulsar("Guardar");
     verificarConsulta();

@@ -4,6 +4,7 @@
 // back or refuses, and what cancelling leaves.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "credit/frmSolicitudArticulo.h"
 #include "runtime/Conversion.h"
 #include "shell/busqueda/frmBusca.h"
@@ -73,7 +74,6 @@ private:
     // Types into a box that has taken the focus: what it holds must be selected, or the typing adds
     // to it. Nothing to type erases what it holds.
     static void escribir(shell::CajaTexto* caja, const QString& texto);
-    static void activar(QWidget& ventana);
     QStringList mensajes_;
     std::unique_ptr<EntornoDePantallas> entorno_;
 };
@@ -85,12 +85,6 @@ void TstFrmSolicitudArticulo::init() {
 
 void TstFrmSolicitudArticulo::cleanup() {
     entorno_.reset();
-}
-
-void TstFrmSolicitudArticulo::activar(QWidget& ventana) {
-    ventana.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana))
-        qWarning("%s did not become active", qPrintable(ventana.objectName()));
 }
 
 void TstFrmSolicitudArticulo::abrir(const QVariantList& parametros,

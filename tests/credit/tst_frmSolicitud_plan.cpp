@@ -121,7 +121,7 @@ void TstFrmSolicitudPlan::plan() {
         const QString nombre = paso.section(u'=', 0, 0);
         QWidget* caja = control(&pantalla(), nombre);
         QVERIFY2(caja, qPrintable(nombre));
-        SolicitudEnPantalla::escribir(caja, paso.section(u'=', 1));
+        escribir(caja, paso.section(u'=', 1));
     }
     QStringList visto;
     for (const QString& e : esperado)
@@ -161,7 +161,7 @@ void TstFrmSolicitudPlan::lineaNuevaTrasElPlan() {
     QFETCH(QString, abono);
     auto& p = pantalla();
     nuevaConTotal(QStringLiteral("800"));
-    SolicitudEnPantalla::escribir(p.txtEnganche, QStringLiteral("100"));
+    escribir(p.txtEnganche, QStringLiteral("100"));
     QCOMPARE(p.lblTotalCredito->text(), QStringLiteral("700.00"));
     QCOMPARE(p.lblAbonoMensual->text(), QStringLiteral("58.33"));
     s_->insertarLinea(QStringLiteral("ESTUFA"), QStringLiteral("1"), QStringLiteral("200"));
@@ -213,9 +213,9 @@ void TstFrmSolicitudPlan::descuentoGuardado() {
     pulsar("Agregar");
     s_->elegirCliente(QStringLiteral("GONZÁLEZ"));
     s_->elegirFiador(QStringLiteral("MARIO"));
-    SolicitudEnPantalla::escribir(p.txtFiadorParentesco, QStringLiteral("hermano"));
+    escribir(p.txtFiadorParentesco, QStringLiteral("hermano"));
     s_->insertarLinea(QStringLiteral("ESTUFA"), QStringLiteral("1"), total);
-    SolicitudEnPantalla::escribir(control(&p, campo), tecleado);
+    escribir(control(&p, campo), tecleado);
     QCOMPARE(p.txtDescuentoP->text(), porcentaje);
     pulsar("Guardar");
     QCOMPARE(db("SELECT printf('%.2f', Descuento) FROM Solicitud WHERE NumeroSolicitud = 42"), guardado);

@@ -48,6 +48,11 @@ EntornoDePantallas::EntornoDePantallas() {
 }
 
 EntornoDePantallas::~EntornoDePantallas() {
+    // An action queued for a modal screen that never showed: what the test expected didn't happen.
+    if (!acciones_.isEmpty() && !QTest::currentTestFailed())
+        QTest::qFail(qPrintable(QStringLiteral("%1 acciones para pantallas modales que no se mostraron")
+                                    .arg(acciones_.size())),
+                     __FILE__, __LINE__);
     cerrarPantallas();
     Common::InstalarConductorModal({});
     Common::InstalarGanchoFatal({});

@@ -17,6 +17,7 @@ class QWidget;
 //
 // A modal screen nobody queued an action for, and a failure that reached the fatal path, fail the
 // test, unless the test said it expects them (esperaModalesSinAccion, esperaFallos) and checks them.
+// So does an action still queued when the environment goes: the screen it was for never showed.
 class EntornoDePantallas {
 public:
     EntornoDePantallas();
