@@ -240,7 +240,8 @@ bool frmRecibo::GuardarRecibo() {
 void frmRecibo::txtNumeroRecibo_Validate() {
     if (txtNumeroRecibo->Text() == txtNumeroRecibo->Tag()) return;
     store::Recordset rs;
-    rs.Open(QStringLiteral("Select NumeroRecibo From Recibo Where NumeroRecibo = ") + txtNumeroRecibo->Text(),
+    rs.Open(QStringLiteral("Select NumeroRecibo From Recibo Where NumeroRecibo = ") +
+                runtime::TextoDe(runtime::Val(txtNumeroRecibo->Text())),
             Common::DE().CN, store::adOpenStatic, store::adLockReadOnly);
     if (rs.Eof()) return;
     Common::MostrarMensaje(lblTitulo->text(), QStringLiteral("El numero de recibo que ingreso ya existe."),

@@ -218,6 +218,8 @@ void TstFrmRecibo::numeroDeRecibo_data() {
     QTest::newRow("modificado con el número de otro: vuelve al suyo") << true << "8" << true << "7"
                                                                       << ""
                                                                       << "7 8";
+    QTest::newRow("modificado y borrado: se rehúsa al guardar")
+        << true << "" << false << "" << kSinNumero << "7 8";
 }
 
 // Leaving the number looks it up among the stored receipts; one that exists is told and the field
