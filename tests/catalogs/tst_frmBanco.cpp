@@ -184,9 +184,6 @@ void TstFrmBanco::bancoConRecibosNoSeElimina() {
     QCOMPARE(db("SELECT count(*) FROM Banco"), QStringLiteral("3"));
 }
 
-// Another screen's transaction has written (a receipt's mora) and holds the database: "Guardar" here
-// tells the clerk why it can't save yet instead of ending the program, the screen keeps what was
-// typed, and once that transaction ends the same "Guardar" saves.
 // The bank screen has no handler of its own: a save refused because another screen's transaction
 // holds the database ends the program, and the error box says who holds it. Nothing is written, and
 // the other screen's pending write stays its own.
