@@ -1,5 +1,6 @@
 #include "cash/Caja.h"
 
+#include "cash/frmFactura.h"
 #include "cash/frmRecibo.h"
 #include "shell/common/Common.h"
 #include "shell/principal/frmMain.h"
@@ -9,6 +10,8 @@ namespace caja {
 void registrarPantallas() {
     shell::frmMain::registrarPantalla(QStringLiteral("frmRecibo"),
                                       [] { Common::Pantalla<frmRecibo>().Show(); });
+    shell::frmMain::registrarPantalla(QStringLiteral("frmFactura"),
+                                      [] { Common::Pantalla<frmFactura>().Show(); });
 }
 
 } // namespace caja

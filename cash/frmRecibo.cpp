@@ -21,7 +21,7 @@ const QString kVacio = QStringLiteral("Select * From Recibo Where ReciboID<0");
 } // namespace
 
 frmRecibo::frmRecibo()
-    : PantallaRegistro(QStringLiteral("Recibos"), 9135, 8010) {
+    : PantallaDeCaja(QStringLiteral("Recibos"), 9135, 8010) {
     setObjectName(QStringLiteral("frmRecibo"));
     adoRecibos = new store::Adodc(this);
     adoRecibos->setObjectName(QStringLiteral("adoRecibos"));
@@ -34,16 +34,7 @@ frmRecibo::frmRecibo()
     OrdenDeTabulacion();
 
     txtNumeroRecibo->alValidar([this] { txtNumeroRecibo_Validate(); });
-    txtNumeroSolicitud->alValidar([this] { txtNumeroSolicitud_Validate(); });
-    txtNumeroSolicitud->alPresionarTecla(
-        [this](int KeyCode, int Shift) { txtNumeroSolicitud_KeyDown(KeyCode, Shift); });
-    txtNombreCliente->alHacerDobleClic([this] { txtNombreCliente_DblClick(); });
-    txtNombreCliente->alValidar([this] { txtNombreCliente_Validate(); });
-    connect(cmdCliente, &QPushButton::clicked, this,
-            [this] { Common::Manejar([this] { cmdCliente_Click(); }); });
-
-    lineas_ = new LineasDeDetalle(*this, *fgDetalle, Editando);
-    lineas_->filaEnBlanco = [this](int fila) { return !EsLineaReal(fila); };
+    Conectar(adoRecibos);
     lineas_->alInsertar = [this](int Shift) {
         if (Shift == 0)
             AgregarConcepto();
@@ -55,7 +46,6 @@ frmRecibo::frmRecibo()
     // The grid stands outside the frames: a double click edits a line while browsing too, changing
     // only what the screen shows.
     lineas_->dobleClicAlConsultar = true;
-    setGuardaDeTransaccion(true);
 }
 
 void frmRecibo::Form_Load() {
@@ -79,7 +69,7 @@ void frmRecibo::cmdBoton_Click(int Index) {
     else if (boton == QLatin1String("Guardar"))
         Guardar();
     else if (boton == QLatin1String("Cancelar"))
-        Cancelar();
+        Cancelar(); // the mora added to the application goes back too
     // "Eliminar" and "Imprimir": a receipt is never deleted, voided or printed.
 }
 
@@ -128,21 +118,13 @@ void frmRecibo::CargarRecibo() {
     panBanco->CalcularVuelto();
 }
 
-// The receipt's edits all run in one transaction of the shared connection.
-void frmRecibo::EditarEnTransaccion() {
-    adoRecibos->Recordset()->setActiveConnection(Common::DE().CN);
-    Common::TransaccionActiva = Common::DE().CN.BeginTrans();
-}
-
 // A new receipt on today's date with the next number; the name keeps its colour and lock, so after
 // a plain-name receipt it stays open for typing.
 void frmRecibo::Agregar() {
-    Agregando = true;
-    Editando = true;
-    ModoEdicion(QStringLiteral("Agregar nuevo registro"));
+    EmpezarEdicion(true);
     fgDetalle->Vaciar();
     fgSaldos->Vaciar();
-    EditarEnTransaccion();
+    EditarEnTransaccion(*adoRecibos);
     adoRecibos->Recordset()->AddNew();
     dpFecha->setValue(runtime::Hoy());
     txtNombreCliente->setText(QString());
@@ -164,10 +146,8 @@ void frmRecibo::Agregar() {
 // The balances are not read again: unless the application's number is typed anew, fgSaldos stays as
 // it stands. With no receipt shown, it is the row that fails.
 void frmRecibo::Modificar() {
-    Agregando = false;
-    Editando = true;
-    ModoEdicion(QStringLiteral("Modificar registro actual"));
-    EditarEnTransaccion();
+    EmpezarEdicion(false);
+    EditarEnTransaccion(*adoRecibos);
     store::Recordset& rs = *adoRecibos->Recordset();
     SolicitudID = runtime::CLng(runtime::ValNulo(rs.Fields(QStringLiteral("SolicitudID")).Value()));
     ClienteID = runtime::CLng(runtime::ValNulo(rs.Fields(QStringLiteral("ClienteID")).Value()));
@@ -176,34 +156,20 @@ void frmRecibo::Modificar() {
     txtNumeroRecibo->setFocus();
 }
 
-// Whatever the edit wrote goes back, the mora added to the application included; the grids and the
-// name keep what they show until the next search or "Agregar".
-void frmRecibo::Cancelar() {
-    adoRecibos->Recordset()->CancelUpdate();
-    Common::DE().CN.RollbackTrans();
-    Common::TransaccionActiva = 0;
-    Agregando = false;
-    Editando = false;
-    ModoConsulta();
-}
-
+// The name field is the whole test of who the receipt is for: all three forms fill it.
 void frmRecibo::Guardar() {
-    const auto falla = [this](const QString& titulo, const QString& mensaje) {
-        Common::MostrarMensaje(titulo, mensaje, *this);
-    };
-    if (runtime::Val(txtNumeroRecibo->Text()) <= 0)
-        return falla(lblTitulo->text(), QStringLiteral("Debe el numero correlativo del recibo."));
-    if (txtNombreCliente->Text().trimmed().isEmpty())
-        return falla(lblTitulo->text(),
-                     QStringLiteral("Debe indicar la solicidut de credito, cliente registrado o nombre de la "
-                                    "persona a quien se emite el recibo."));
-    if (fgDetalle->TextMatrix(1, 0).trimmed().isEmpty())
-        return falla(lblTitulo->text(), QStringLiteral("Debe especificar que desea pagar en este recibo."));
+    if (FaltaNumero(txtNumeroRecibo)) return;
+    if (txtNombreCliente->Text().trimmed().isEmpty()) {
+        Common::MostrarMensaje(lblTitulo->text(),
+                               QStringLiteral("Debe indicar la solicidut de credito, cliente registrado o "
+                                              "nombre de la persona a quien se emite el recibo."),
+                               *this);
+        return;
+    }
+    if (FaltanLineas()) return;
     if (!panBanco->Validar()) return;
     if (!GuardarRecibo()) return;
-    Agregando = false;
-    Editando = false;
-    ModoConsulta();
+    TerminarEdicion();
 }
 
 // The row, then its lines written again as the grid holds them, and the commit. A failure is told
@@ -230,8 +196,7 @@ bool frmRecibo::GuardarRecibo() {
                                     QStringLiteral(",") + celda(2) + QStringLiteral(",") + celda(4) +
                                     QStringLiteral(")"));
         }
-        Common::DE().CN.CommitTrans();
-        Common::TransaccionActiva = 0;
+        ConfirmarTransaccion();
     });
 }
 

@@ -1,16 +1,8 @@
 #pragma once
 
-#include "cash/BloquePago.h"
-#include "shell/controles/CajaTexto.h"
-#include "shell/controles/GrillaDetalle.h"
-#include "shell/controles/SelectorFecha.h"
-#include "shell/marco/LineasDeDetalle.h"
-#include "shell/marco/PantallaRegistro.h"
-#include "store/Adodc.h"
+#include "cash/PantallaDeCaja.h"
 
-#include <QColor>
 #include <QLabel>
-#include <QPushButton>
 
 namespace caja {
 
@@ -25,7 +17,9 @@ namespace caja {
 // one stored figure it changes is the application's mora, inside the receipt's own transaction. That
 // transaction runs on the shared connection from "Agregar" or "Modificar" to "Guardar" or "Cancelar";
 // a save that fails keeps it open for a second "Guardar". A receipt is never deleted nor printed.
-class frmRecibo : public shell::PantallaRegistro {
+// What it shares with the invoice (the party, the lines' dialog and pick list, the edit) is in
+// PantallaDeCaja.
+class frmRecibo : public PantallaDeCaja {
     Q_OBJECT
 public:
     frmRecibo();
@@ -34,27 +28,16 @@ public:
     QFrame* fraMain1; // fraMain(1): the concept and the tender; fraMain is fraMain(0)
 
     shell::CajaTexto* txtNumeroRecibo;
-    shell::SelectorFecha* dpFecha;
-    shell::CajaTexto* txtNumeroSolicitud;
     QLabel* lblCodigo;
-    QPushButton* cmdCliente;
-    shell::CajaTexto* txtNombreCliente;
     shell::GrillaDetalle* fgSaldos;
-    shell::GrillaDetalle* fgDetalle;
     QLabel* lblTotal;
     shell::CajaTextoMultilinea* txtConcepto;
-    BloquePago* panBanco;
-
-    bool Editando = false;
-    long SolicitudID = 0;
-    long ClienteID = 0;
 
     void txtNumeroRecibo_Validate();
-    void txtNumeroSolicitud_Validate();
-    void txtNumeroSolicitud_KeyDown(int KeyCode, int Shift);
-    void txtNombreCliente_DblClick();
-    void txtNombreCliente_Validate();
-    void cmdCliente_Click();
+    void txtNumeroSolicitud_Validate() override;
+    void txtNumeroSolicitud_KeyDown(int KeyCode, int Shift) override;
+    void txtNombreCliente_DblClick() override;
+    void cmdCliente_Click() override;
     void fgDetalle_DblClick();
 
 protected:
@@ -67,10 +50,8 @@ private:
     void Agregar();
     void Modificar();
     void Guardar();
-    void Cancelar();
     void CargarRecibo();
     bool GuardarRecibo();
-    void EditarEnTransaccion();
 
     // frmRecibo_diseno.cpp
     void DisenarEncabezado();
@@ -79,10 +60,8 @@ private:
     void OrdenDeTabulacion();
 
     // frmRecibo_persona.cpp
-    // The lines and the balances wiped, the name locked again: every change of who pays starts here.
-    void OlvidarPersona();
-    // The name back to the field's own colour, locked.
-    void BloquearNombre();
+    // The balances go with the lines whenever who pays changes.
+    void OlvidarPersona() override;
     void CargarSaldos();
 
     // frmRecibo_lineas.cpp
@@ -91,13 +70,8 @@ private:
     bool AgregarMora();
     void AgregarConcepto();
     void AgregarArticulo();
-    bool EsLineaReal(int fila) const;
     void AgregarLinea(const QString& concepto, const QString& articulo, double cantidad,
                       const QString& descripcion, double valor);
-    void AbrirLinea(bool comoConcepto);
-
-    shell::LineasDeDetalle* lineas_;
-    QColor colorNombre_; // the name field's own colour, before a plain name paints it
 };
 
 } // namespace caja

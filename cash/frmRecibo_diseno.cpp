@@ -33,17 +33,12 @@ void frmRecibo::DisenarEncabezado() {
 
     etiqueta(QStringLiteral("No. Solicitud:"), 120, 510, 1080);
     txtNumeroSolicitud = campo<CajaTexto>(QStringLiteral("txtNumeroSolicitud"), 1240, 480, 1200);
-    SeleccionarTodoAlEntrar(txtNumeroSolicitud);
     etiqueta(QStringLiteral("Código:"), 2640, 510, 600);
     lblCodigo = recuadro(campo<QLabel>(QStringLiteral("lblCodigo"), 3280, 480, 1500));
     cmdCliente = campo<QPushButton>(QStringLiteral("cmdCliente"), 7575, 465, 1200, 315);
     cmdCliente->setText(QStringLiteral("Cliente >"));
 
-    // Locked as designed: a name is typed only after a double click opens it.
     txtNombreCliente = campo<CajaTexto>(QStringLiteral("txtNombreCliente"), 120, 840, 8655);
-    txtNombreCliente->setLocked(true);
-    colorNombre_ = txtNombreCliente->BackColor();
-    SeleccionarTodoAlEntrar(txtNombreCliente);
 
     // The headings and one row of figures, whole: nothing to scroll.
     fgSaldos = campo<GrillaDetalle>(QStringLiteral("fgSaldos"), 120, 1260, 8520, 555);

@@ -3,11 +3,9 @@
 // each concept picked proposes the pending figure of its Tipo, which the clerk may then change in the
 // line dialog. Neither grid updates the other, but for the mora added here.
 #include "cash/frmRecibo.h"
-#include "credit/frmSolicitudArticulo.h"
 #include "runtime/Conversion.h"
 #include "runtime/Formato.h"
 #include "shell/busqueda/frmBusca.h"
-#include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
 #include "shell/common/Twips.h"
 #include "shell/dialogos/Dialogos.h"
@@ -62,14 +60,6 @@ void frmRecibo::PrepararGrillas() {
     fgDetalle->FormatoEncabezado();
 }
 
-// A line is real when it has a concept or an article; the blank row and the line of zeros a cancelled
-// article search leaves are not.
-bool frmRecibo::EsLineaReal(int fila) const {
-    return runtime::Val(fgDetalle->TextMatrix(fila, colConcepto)) +
-               runtime::Val(fgDetalle->TextMatrix(fila, colArticulo)) >
-           0;
-}
-
 void frmRecibo::AgregarLinea(const QString& concepto, const QString& articulo, double cantidad,
                              const QString& descripcion, double valor) {
     lineas_->AgregarFila({concepto, articulo, runtime::TextoDe(cantidad), descripcion,
@@ -77,30 +67,14 @@ void frmRecibo::AgregarLinea(const QString& concepto, const QString& articulo, d
     CalcularTotal();
 }
 
-// The line dialog at the screen's Left + 300, Top + 300, over Parametros as the caller left them.
-void frmRecibo::AbrirLinea(bool comoConcepto) {
-    auto& dialogo = Common::Pantalla<credito::frmSolicitudArticulo>();
-    if (comoConcepto) dialogo.VestirComoConcepto();
-    dialogo.Move(Left() + 300, Top() + 300);
-    Common::AtenuarTitulo(*this);
-    dialogo.ShowModal();
-    Common::ResaltarTitulo(*this);
-}
-
 // Insert: a concept from the pick list (every concept for an application, the ordinary ones for any
 // other receipt), its value proposed by its Tipo from the balances. A concept already on the receipt
 // goes in again at 0.00, for the clerk to edit or delete.
 void frmRecibo::AgregarConcepto() {
-    auto& lista = Common::Pantalla<frmListado>();
-    lista.CargarLista(QStringLiteral("Select ConceptoID as Codigo, Descripcion From Concepto ") +
-                      (SolicitudID < 1 ? QStringLiteral("Where IsNull(Tipo)") : QString()) +
-                      QStringLiteral("Order By 2,1"));
-    lista.lblTitulo->setText(QStringLiteral(" Lista de conceptos"));
-    lista.Move(Left() + 300, Top() + 300);
-    Common::AtenuarTitulo(*this);
-    lista.ShowModal();
-    Common::ResaltarTitulo(*this);
-    if (Common::IDSeleccionado < 1) return;
+    if (!ElegirConcepto(QStringLiteral("Select ConceptoID as Codigo, Descripcion From Concepto ") +
+                        (SolicitudID < 1 ? QStringLiteral("Where IsNull(Tipo)") : QString()) +
+                        QStringLiteral("Order By 2,1")))
+        return;
     const QString clave = QString::number(Common::IDSeleccionado);
     const QString descripcion = Common::TextoSeleccionado;
     const auto saldo = [this](Saldo columna) { return runtime::Val(fgSaldos->TextMatrix(1, columna)); };

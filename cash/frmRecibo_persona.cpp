@@ -13,22 +13,9 @@ using namespace shell;
 
 namespace caja {
 
-namespace {
-
-const QColor kNombreEscrito(255, 255, 192);
-
-} // namespace
-
 void frmRecibo::OlvidarPersona() {
-    SolicitudID = 0;
-    ClienteID = 0;
-    fgDetalle->Vaciar();
+    PantallaDeCaja::OlvidarPersona();
     fgSaldos->Vaciar();
-}
-
-void frmRecibo::BloquearNombre() {
-    txtNombreCliente->setBackColor(colorNombre_);
-    txtNombreCliente->setLocked(true);
 }
 
 // Leaving the number: an application the views call "Aprobada" is loaded with its balances; any
@@ -49,17 +36,9 @@ void frmRecibo::txtNumeroSolicitud_Validate() {
                        "From vwBuscaSolicitud Where shw1200_int_Solicitud = ") +
             txtNumeroSolicitud->Text(),
         Common::DE().CN, store::adOpenStatic, store::adLockReadOnly);
-    const auto rechazar = [this](const QString& mensaje) {
-        Common::MostrarMensaje(lblTitulo->text(), mensaje, *this);
-        txtNumeroSolicitud->setText(QStringLiteral("0"));
-        txtNumeroSolicitud->setTag(QStringLiteral("0"));
-    };
-    if (rs.Eof())
-        return rechazar(
-            QStringLiteral("No se ha encontrado el numero de solicitud que ingreso. Presione [F2] "
-                           "para obtener una lista."));
+    if (rs.Eof()) return RechazarSolicitud(kSolicitudNoEncontrada);
     if (runtime::TextoDe(rs.Fields(QStringLiteral("shw800_str_Estado")).Value()) != QLatin1String("Aprobada"))
-        return rechazar(QStringLiteral("La solicitud que desea abonar no esta activa."));
+        return RechazarSolicitud(QStringLiteral("La solicitud que desea abonar no esta activa."));
     txtNombreCliente->setText(
         runtime::TextoDe(rs.Fields(QStringLiteral("shw3000_str_Nombre_del_cliente")).Value()));
     lblCodigo->setText(runtime::TextoDe(rs.Fields(QStringLiteral("shw680_str_Codigo")).Value()));
@@ -83,35 +62,22 @@ void frmRecibo::txtNumeroSolicitud_KeyDown(int KeyCode, int) {
 // The receipt is for a registered client. Cleared before the search: closed without a pick, the name
 // and code stay as they were with both keys 0, so a save would keep that text as a plain name.
 void frmRecibo::cmdCliente_Click() {
-    SolicitudID = 0;
-    ClienteID = 0;
     txtNumeroSolicitud->setText(QStringLiteral("0"));
     txtNumeroSolicitud->setTag(QString());
     BloquearNombre();
     OlvidarPersona();
-    if (!shell::Buscar(*this, QStringLiteral("Select * From vwBuscaCliente"),
-                       QStringLiteral("Busca clientes")))
-        return;
-    ClienteID = runtime::CLng(runtime::ValNulo(Common::Parametros(1)));
-    txtNombreCliente->setText(runtime::TextoDe(Common::Parametros(3)) + QLatin1Char(' ') +
-                              runtime::TextoDe(Common::Parametros(4)));
+    if (!ElegirCliente()) return;
     lblCodigo->setText(runtime::TextoDe(Common::Parametros(2)));
 }
 
 // The only way to type a name: the field opens, empty and pale yellow, for a person who is neither an
 // application nor a registered client.
 void frmRecibo::txtNombreCliente_DblClick() {
-    txtNombreCliente->setText(QString());
-    txtNombreCliente->setBackColor(kNombreEscrito);
-    txtNombreCliente->setLocked(false);
+    AbrirNombre();
     OlvidarPersona();
     txtNumeroSolicitud->setText(QStringLiteral("0"));
     txtNumeroSolicitud->setTag(QString());
     lblCodigo->setText(QString());
-}
-
-void frmRecibo::txtNombreCliente_Validate() {
-    txtNombreCliente->setText(txtNombreCliente->Text().toUpper());
 }
 
 // The five figures of the application as the view gives them, in row 1 of fgSaldos.

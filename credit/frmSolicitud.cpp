@@ -195,12 +195,6 @@ void frmSolicitud::Buscar() {
     MostrarSolicitud();
 }
 
-// The transaction of an edit, begun whatever TransaccionActiva says.
-void frmSolicitud::EditarEnTransaccion() {
-    adoSolicitud->Recordset()->setActiveConnection(Common::DE().CN);
-    Common::TransaccionActiva = Common::DE().CN.BeginTrans();
-}
-
 // A new application starts with the date the picker showed last, the status word and "Alquilada" as
 // they were; the number proposed still goes through the check on leaving it.
 void frmSolicitud::Agregar() {
@@ -210,7 +204,7 @@ void frmSolicitud::Agregar() {
     LimpiarCliente();
     LimpiarFiador();
     fgDetalle->Vaciar();
-    EditarEnTransaccion();
+    EditarEnTransaccion(*adoSolicitud);
     adoSolicitud->Recordset()->AddNew();
     for (QLabel* l : {lblTotalCredito, lblTotalPagar, lblAbonoMensual})
         l->setText(QStringLiteral("0.00"));
@@ -236,7 +230,7 @@ void frmSolicitud::Modificar() {
     Agregando = false;
     Editando = true;
     ModoEdicion(QStringLiteral("Modificar registro actual"));
-    EditarEnTransaccion();
+    EditarEnTransaccion(*adoSolicitud);
     txtNumeroSolicitud->setTag(txtNumeroSolicitud->Text());
     txtNumeroSolicitud->setFocus();
 }
@@ -308,8 +302,7 @@ bool frmSolicitud::GuardarSolicitud() {
                                     QStringLiteral(",") + articulo + QStringLiteral(",") + cantidad +
                                     QStringLiteral(",") + precio + QStringLiteral(")"));
         }
-        Common::DE().CN.CommitTrans();
-        Common::TransaccionActiva = 0;
+        ConfirmarTransaccion();
         guardada = true;
     });
     return guardada;
@@ -324,9 +317,7 @@ void frmSolicitud::Guardar() {
 
 // The bound fields go back to the current row; the panels, the lines and the plan keep what they show.
 void frmSolicitud::Cancelar() {
-    adoSolicitud->Recordset()->CancelUpdate();
-    Common::DE().CN.RollbackTrans();
-    Common::TransaccionActiva = 0;
+    AnularTransaccion(*adoSolicitud);
     TerminarEdicion();
 }
 
@@ -368,13 +359,12 @@ void frmSolicitud::Rechazar() {
             QString()) != QLatin1String("Aceptar"))
         return;
     store::Recordset& rs = *adoSolicitud->Recordset();
-    EditarEnTransaccion();
+    EditarEnTransaccion(*adoSolicitud);
     rs.Fields(QStringLiteral("Estado")) = 3;
     rs.Fields(QStringLiteral("Observaciones")) = Common::TextoSeleccionado;
     rs.Fields(QStringLiteral("FechaAprobacion")) = runtime::TextoFecha(runtime::Hoy());
     rs.Update();
-    Common::DE().CN.CommitTrans();
-    Common::TransaccionActiva = 0;
+    ConfirmarTransaccion();
     MostrarSolicitud();
 }
 
@@ -400,12 +390,11 @@ void frmSolicitud::Eliminar() {
 // recordset isn't read again: the deleted application stays on view until the next search.
 void frmSolicitud::EliminarSolicitud() {
     try {
-        EditarEnTransaccion();
+        EditarEnTransaccion(*adoSolicitud);
         const QString clave = runtime::TextoDe(runtime::Val(txtSolicitudID->Text()));
         Common::DE().CN.Execute(QStringLiteral("Delete From SolicitudDetalle Where SolicitudID = ") + clave);
         Common::DE().CN.Execute(QStringLiteral("Delete From Solicitud Where SolicitudID = ") + clave);
-        Common::DE().CN.CommitTrans();
-        Common::TransaccionActiva = 0;
+        ConfirmarTransaccion();
     } catch (const store::Fallo& fallo) {
         if (Common::DE().CN.nivelTransaccion() > 0) Common::DE().CN.RollbackTrans();
         Common::TransaccionActiva = 0;

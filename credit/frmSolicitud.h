@@ -132,7 +132,6 @@ private:
     bool GuardarSolicitud();
     void EliminarSolicitud();
     void TerminarEdicion();
-    void EditarEnTransaccion();
     QVariant Estado();
 
     // frmSolicitud_diseno.cpp

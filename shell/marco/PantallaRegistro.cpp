@@ -2,6 +2,7 @@
 
 #include "shell/common/Common.h"
 #include "shell/dialogos/Dialogos.h"
+#include "store/Adodc.h"
 
 #include <exception>
 
@@ -61,6 +62,22 @@ bool PantallaRegistro::AvisarSiFalla(const std::function<void()>& paso) {
         Common::MostrarMensaje(lblTitulo->text(), QString::fromUtf8(e.what()), *this);
     }
     return false;
+}
+
+void PantallaRegistro::EditarEnTransaccion(store::Adodc& datos) {
+    datos.Recordset()->setActiveConnection(Common::DE().CN);
+    Common::TransaccionActiva = Common::DE().CN.BeginTrans();
+}
+
+void PantallaRegistro::AnularTransaccion(store::Adodc& datos) {
+    datos.Recordset()->CancelUpdate();
+    Common::DE().CN.RollbackTrans();
+    Common::TransaccionActiva = 0;
+}
+
+void PantallaRegistro::ConfirmarTransaccion() {
+    Common::DE().CN.CommitTrans();
+    Common::TransaccionActiva = 0;
 }
 
 // "Aceptar" undoes the open transaction (the counter first) and lets the screen close; any other

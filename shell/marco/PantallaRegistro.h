@@ -4,6 +4,10 @@
 
 #include <functional>
 
+namespace store {
+class Adodc;
+}
+
 namespace shell {
 
 // One button of a record screen's bar: its index in cmdBoton, its caption and where it stands.
@@ -48,6 +52,14 @@ protected:
     // step ran through.
     bool AvisarSiFalla(const std::function<void()>& paso);
     void Form_QueryUnload(bool& cancelar) override;
+
+    // The transaction of an edit, on the shared connection: the screen's recordset is attached to it
+    // and BeginTrans gives TransaccionActiva its level, whatever the counter said before.
+    void EditarEnTransaccion(store::Adodc& datos);
+    // The edit undone: the pending row dropped, the transaction rolled back, the counter 0.
+    void AnularTransaccion(store::Adodc& datos);
+    // The edit made lasting: CommitTrans, the counter 0.
+    void ConfirmarTransaccion();
 
 private:
     int guardar_ = -1, cancelar_ = -1;

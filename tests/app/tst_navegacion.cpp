@@ -54,7 +54,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Artículos", "frmArticulo"},
                                                               {"Créditos", "frmSolicitud"},
                                                               {"Recibos", "frmRecibo"},
-                                                              {"Facturas", ""},
+                                                              {"Facturas", "frmFactura"},
                                                               {"Pagos", ""},
                                                               {"Ingresos", ""},
                                                               {"Envíos", ""},
@@ -81,7 +81,8 @@ void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::addColumn<QString>("pantalla");
     QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
     QTest::newRow("Recibos") << QStringLiteral("Recibos") << QStringLiteral("frmRecibo");
-    for (const char* clave : {"Facturas", "Ingresos", "Envios"})
+    QTest::newRow("Facturas") << QStringLiteral("Facturas") << QStringLiteral("frmFactura");
+    for (const char* clave : {"Ingresos", "Envios"})
         QTest::newRow(clave) << QString::fromLatin1(clave) << QString();
 }
 

@@ -5,6 +5,7 @@
 
 #include "BaseDePrueba.h"
 #include "app/Registro.h"
+#include "cash/frmFactura.h"
 #include "cash/frmRecibo.h"
 #include "catalogs/frmArticulo.h"
 #include "catalogs/frmBanco.h"
@@ -16,6 +17,7 @@
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
+#include "shell/controles/GloboDeAyuda.h"
 #include "shell/dialogos/Dialogos.h"
 #include "shell/principal/Apariencia.h"
 #include "shell/principal/frmMain.h"
@@ -23,6 +25,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -248,6 +251,60 @@ int main(int argc, char* argv[]) {
     QCoreApplication::processEvents();
     guardar(recibo.grab(), QStringLiteral("frmRecibo-editando"));
     QTest::mouseClick(recibo.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // The second invoice found (an article sold to a client, paid by cheque); then a new one for
+    // application 1, paid off: its two articles as lines of credit with its discount, a line of
+    // "Instalación" beside them (the dialog undressed), and the cash. Last, the balloon tip of the
+    // discount under the pointer resting on it.
+    auto& factura = Common::Pantalla<caja::frmFactura>();
+    factura.Show();
+    factura.move(10, 10);
+    pendientes << QStringLiteral("*1");
+    QTest::mouseClick(factura.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(factura.grab(), QStringLiteral("frmFactura-consultando"));
+    QTest::mouseClick(factura.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    const auto enLaFactura = [&factura](QWidget* campo, const QString& texto) {
+        QApplication::setActiveWindow(&factura);
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(campo, texto);
+        QTest::keyClick(campo, Qt::Key_Tab);
+    };
+    enLaFactura(factura.txtNumeroSolicitud, QStringLiteral("1"));
+    factura.fgDetalle->setFocus();
+    pendientes << QStringLiteral("*3") << QStringLiteral("frmSolicitudArticulo-factura|350"); // "Instalación"
+    QTest::keyClick(factura.fgDetalle, Qt::Key_Insert, Qt::ShiftModifier);
+    enLaFactura(factura.panBanco->txtEfectivo, QStringLiteral("5500"));
+    factura.txtObservaciones->setFocus();
+    QTest::keyClicks(factura.txtObservaciones, QStringLiteral("Cancelada con el recibo 5"));
+    QCoreApplication::processEvents();
+    guardar(factura.grab(), QStringLiteral("frmFactura-editando"));
+    const QPoint sobreElDescuento(40, 10);
+    QHelpEvent reposo(QEvent::ToolTip, sobreElDescuento, factura.txtDescuento->mapToGlobal(sobreElDescuento));
+    QApplication::sendEvent(factura.txtDescuento, &reposo);
+    QCoreApplication::processEvents();
+    for (auto* globo : factura.findChildren<shell::GloboDeAyuda*>())
+        if (globo->isVisible()) {
+            const QPoint donde = globo->pos() - factura.pos();
+            QPixmap lienzo(qMax(factura.width(), donde.x() + globo->width()),
+                           qMax(factura.height(), donde.y() + globo->height()));
+            lienzo.fill(Qt::white);
+            QPainter p(&lienzo);
+            p.drawPixmap(0, 0, factura.grab());
+            p.drawPixmap(donde, globo->grab());
+            // The pointer, which the offscreen platform doesn't draw: an arrow with its tip where it
+            // rests.
+            const QPoint punta = factura.txtDescuento->mapTo(&factura, sobreElDescuento);
+            const QPolygon flecha({{0, 0}, {0, 16}, {4, 12}, {7, 18}, {9, 17}, {6, 11}, {11, 11}});
+            p.setRenderHint(QPainter::Antialiasing);
+            p.setPen(Qt::black);
+            p.setBrush(Qt::white);
+            p.drawPolygon(flecha.translated(punta));
+            p.end();
+            guardar(lienzo, QStringLiteral("frmFactura-globo"));
+        }
+    QTest::mouseClick(factura.cmdBoton[6], Qt::LeftButton); // "Cancelar"
 
     // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
     // one unit; opened at its caller's Left + 300, Top + 300.
