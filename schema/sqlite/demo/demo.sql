@@ -159,13 +159,14 @@ INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VA
     (14, 3, 0, 1, 750),
     (15, 3, 0, 1, 750);
 
--- Invoice 1 is the credit of application 1 (lines brought from it, EsCredito 1, total Q. 5,000.00);
+-- Invoice 1 is the credit of application 1 (lines brought from it, EsCredito 1, total Q. 5,000.00,
+-- tendered in cash as the invoice screen asks even of a credit paid off through receipts);
 -- invoice 2 sells a microwave for cash to client 3, paid by cheque. An invoice names one customer
 -- form only: the application, or the client (whose NIT lives in Cliente), or a typed name and NIT.
 INSERT INTO Factura (FacturaID, NumeroFactura, Fecha, SolicitudID, ClienteID, Nombre, NIT, Descuento,
                      Observaciones, BancoID, ChequeNumero, ChequeValor, Efectivo, Vuelto, Estado) VALUES
     (1, 1, '2026-04-14', 1, 0, NULL, NULL, 290,
-        'Venta al crédito, solicitud 1', 0, NULL, 0, 0, 0, 0),
+        'Venta al crédito, solicitud 1', 0, NULL, 0, 5000, 0, 0),
     (2, 2, '2026-10-02', 0, 3, NULL, NULL, 0,
         NULL, 1, '00801144', 800, 0, 0, 0);
 
