@@ -47,12 +47,14 @@ void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes) {
          QString::number(proveedores) + ", '2026-02-01', 'Pago ' || i FROM n;";
     s += contar(notas) +
          "INSERT INTO DocumentoDetalle (DocumentoID, IngresoID, Valor) SELECT i, i, 12500 FROM n;";
-    // Applications: most approved, one in ten pending, one in ten rejected.
+    // Applications: most approved, one in ten pending, one in ten rejected. The mora charged covers
+    // what the receipts below pay of it (a line of 50 on an odd application, two on an even one) and
+    // leaves 0, 25 or 50 owed, so that no balance of the receipt screen reads below 0.
     s += contar(solicitudes) +
          "INSERT INTO Solicitud (NumeroSolicitud, Fecha, ClienteID, Estado, Enganche, PrimerPago, "
          "MesesCredito, Mora) "
          "SELECT i, '2026-03-01', 1 + (i - 1) / 2, CASE i % 10 WHEN 0 THEN 0 WHEN 9 THEN 3 ELSE 1 END, "
-         "100, 100, 12, i % 3 FROM n;";
+         "100, 100, 12, 50 * (2 - i % 2) + 25 * (i % 3) FROM n;";
     s += contar(solicitudes * 2) +
          "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) "
          // A prime stride spreads the lines over every article.
@@ -60,6 +62,8 @@ void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes) {
          QString::number(articulos) + ", 1, 1500 FROM n;";
     s += contar(solicitudes * 3) + "INSERT INTO Recibo (NumeroRecibo, Fecha, SolicitudID, Efectivo) "
                                    "SELECT i, '2026-04-01', 1 + (i - 1) / 3, 200 FROM n;";
+    // Concepts 1 to 4 in turn, one for each Tipo: application i pays 50 of its enganche or of its
+    // first payment (the other one whole), one or two instalments and one or two lines of mora.
     s += contar(solicitudes * 6) + "INSERT INTO ReciboDetalle (ReciboID, ConceptoID, Cantidad, Valor) "
                                    "SELECT 1 + (i - 1) / 2, 1 + i % 4, 1, 50 FROM n;";
     s += contar(solicitudes / 3) + "INSERT INTO NotaEnvio (NumeroNota, Fecha, SolicitudID, Direccion) "
