@@ -35,7 +35,7 @@ long ComoLong(const QString& celda) {
 } // namespace
 
 frmNotaEnvio::frmNotaEnvio()
-    : PantallaRegistro(QStringLiteral("Notas de envío de mercadería"), 9135, 7200) {
+    : PantallaRegistro(QStringLiteral("Notas de envío de mercadería"), 9375, 7200) {
     setObjectName(QStringLiteral("frmNotaEnvio"));
     adoNota = new store::Adodc(this);
     adoNota->setObjectName(QStringLiteral("adoNota"));

@@ -12,7 +12,7 @@ namespace mercaderia {
 
 namespace {
 
-// The grid: hidden ArticuloID, the description, the quantity.
+// The grid: hidden ArticuloID, the description, the quantity; the grid itself a scroll bar wider.
 const double kAnchos[] = {0, 7600, 900};
 
 } // namespace
@@ -34,18 +34,18 @@ void frmNotaEnvio::Disenar() {
     txtNumeroDocumento->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     etiqueta(QStringLiteral("Nombre:"), 120, 870, 1080);
-    txtNombreCliente = campo<CajaTexto>(QStringLiteral("txtNombreCliente"), 1240, 840, 7385);
+    txtNombreCliente = campo<CajaTexto>(QStringLiteral("txtNombreCliente"), 1240, 840, 7745);
     txtNombreCliente->setLocked(true);
     etiqueta(QStringLiteral("Dirección:"), 120, 1230, 1080);
-    txtDireccion = campo<CajaTexto>(QStringLiteral("txtDireccion"), 1240, 1200, 7385);
+    txtDireccion = campo<CajaTexto>(QStringLiteral("txtDireccion"), 1240, 1200, 7745);
     enlazar(txtDireccion, adoNota, QStringLiteral("Direccion"));
     for (CajaTexto* caja : {txtNumeroNota, txtNumeroDocumento, txtNombreCliente, txtDireccion})
         SeleccionarTodoAlEntrar(caja);
 
-    fgDetalle = campo<GrillaDetalle>(QStringLiteral("fgDetalle"), 120, 1620, 8505, 2700);
+    fgDetalle = campo<GrillaDetalle>(QStringLiteral("fgDetalle"), 120, 1620, 8865, 2700);
 
-    etiqueta(QStringLiteral("Total de artículos a entregar"), 4800, 4440, 2500);
-    lblSaldo = campo<QLabel>(QStringLiteral("lblSaldo"), 7425, 4410, 1200);
+    etiqueta(QStringLiteral("Total de artículos a entregar"), 5160, 4440, 2500);
+    lblSaldo = campo<QLabel>(QStringLiteral("lblSaldo"), 7785, 4410, 1200);
     lblSaldo->setText(QStringLiteral("0"));
     lblSaldo->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     lblSaldo->setMargin(2);
@@ -55,7 +55,7 @@ void frmNotaEnvio::Disenar() {
     lblSaldo->setFont(negrita);
 
     etiqueta(QStringLiteral("OBSERVACIONES"), 120, 4800, 2000);
-    txtObservaciones = campo<CajaTextoMultilinea>(QStringLiteral("txtObservaciones"), 120, 5070, 8505, 810);
+    txtObservaciones = campo<CajaTextoMultilinea>(QStringLiteral("txtObservaciones"), 120, 5070, 8865, 810);
     txtObservaciones->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     enlazar(txtObservaciones, adoNota, QStringLiteral("Observaciones"));
 
