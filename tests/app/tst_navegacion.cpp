@@ -57,7 +57,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Facturas", "frmFactura"},
                                                               {"Pagos", ""},
                                                               {"Ingresos", ""},
-                                                              {"Envíos", ""},
+                                                              {"Envíos", "frmNotaEnvio"},
                                                               {"Reporte1", ""},
                                                               {"Reporte2", ""},
                                                               {"Opcion 1", ""},
@@ -82,8 +82,8 @@ void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
     QTest::newRow("Recibos") << QStringLiteral("Recibos") << QStringLiteral("frmRecibo");
     QTest::newRow("Facturas") << QStringLiteral("Facturas") << QStringLiteral("frmFactura");
-    for (const char* clave : {"Ingresos", "Envios"})
-        QTest::newRow(clave) << QString::fromLatin1(clave) << QString();
+    QTest::newRow("Envios") << QStringLiteral("Envios") << QStringLiteral("frmNotaEnvio");
+    QTest::newRow("Ingresos") << QStringLiteral("Ingresos") << QString();
 }
 
 void TstNavegacion::barraAbreSuPantalla() {

@@ -14,6 +14,7 @@
 #include "credit/frmFiador.h"
 #include "credit/frmSolicitud.h"
 #include "credit/frmSolicitudArticulo.h"
+#include "goods/frmNotaEnvio.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -305,6 +306,26 @@ int main(int argc, char* argv[]) {
             guardar(lienzo, QStringLiteral("frmFactura-globo"));
         }
     QTest::mouseClick(factura.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // The delivery note already made for application 2; then a new one for application 1: its
+    // customer, its home address and its pending articles, the total under them, and a remark.
+    auto& envio = Common::Pantalla<mercaderia::frmNotaEnvio>();
+    envio.Show();
+    envio.move(10, 10);
+    pendientes << kElegir;
+    QTest::mouseClick(envio.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(envio.grab(), QStringLiteral("frmNotaEnvio-consultando"));
+    QTest::mouseClick(envio.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    QApplication::setActiveWindow(&envio);
+    QTest::mouseClick(envio.optTipo->operator()(0), Qt::LeftButton);
+    QTest::keyClicks(envio.txtNumeroDocumento, QStringLiteral("1"));
+    QTest::keyClick(envio.txtNumeroDocumento, Qt::Key_Tab); // the application's pending articles
+    envio.txtObservaciones->setFocus();
+    QTest::keyClicks(envio.txtObservaciones, QStringLiteral("Llamar antes de llegar"));
+    QCoreApplication::processEvents();
+    guardar(envio.grab(), QStringLiteral("frmNotaEnvio-editando"));
+    QTest::mouseClick(envio.cmdBoton[6], Qt::LeftButton); // "Cancelar"
 
     // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
     // one unit; opened at its caller's Left + 300, Top + 300.

@@ -1,0 +1,14 @@
+#include "goods/Mercaderia.h"
+
+#include "goods/frmNotaEnvio.h"
+#include "shell/common/Common.h"
+#include "shell/principal/frmMain.h"
+
+namespace mercaderia {
+
+void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmNotaEnvio"),
+                                      [] { Common::Pantalla<frmNotaEnvio>().Show(); });
+}
+
+} // namespace mercaderia
