@@ -3,6 +3,7 @@
 #include "cash/Caja.h"
 #include "catalogs/Catalogos.h"
 #include "credit/Credito.h"
+#include "goods/Mercaderia.h"
 
 namespace aplicacion {
 
@@ -10,6 +11,7 @@ void RegistrarPantallas() {
     catalogos::registrarPantallas();
     credito::registrarPantallas();
     caja::registrarPantallas();
+    mercaderia::registrarPantallas();
 }
 
 } // namespace aplicacion

@@ -56,7 +56,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Recibos", "frmRecibo"},
                                                               {"Facturas", "frmFactura"},
                                                               {"Pagos", ""},
-                                                              {"Ingresos", ""},
+                                                              {"Ingresos", "frmNotaIngreso"},
                                                               {"Envíos", ""},
                                                               {"Reporte1", ""},
                                                               {"Reporte2", ""},
@@ -82,8 +82,8 @@ void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
     QTest::newRow("Recibos") << QStringLiteral("Recibos") << QStringLiteral("frmRecibo");
     QTest::newRow("Facturas") << QStringLiteral("Facturas") << QStringLiteral("frmFactura");
-    for (const char* clave : {"Ingresos", "Envios"})
-        QTest::newRow(clave) << QString::fromLatin1(clave) << QString();
+    QTest::newRow("Ingresos") << QStringLiteral("Ingresos") << QStringLiteral("frmNotaIngreso");
+    QTest::newRow("Envios") << QStringLiteral("Envios") << QString();
 }
 
 void TstNavegacion::barraAbreSuPantalla() {

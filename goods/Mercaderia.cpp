@@ -1,0 +1,14 @@
+#include "goods/Mercaderia.h"
+
+#include "goods/frmNotaIngreso.h"
+#include "shell/common/Common.h"
+#include "shell/principal/frmMain.h"
+
+namespace mercaderia {
+
+void registrarPantallas() {
+    shell::frmMain::registrarPantalla(QStringLiteral("frmNotaIngreso"),
+                                      [] { Common::Pantalla<frmNotaIngreso>().Show(); });
+}
+
+} // namespace mercaderia
