@@ -55,7 +55,7 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Créditos", "frmSolicitud"},
                                                               {"Recibos", "frmRecibo"},
                                                               {"Facturas", "frmFactura"},
-                                                              {"Pagos", ""},
+                                                              {"Pagos", "frmDocumentos"},
                                                               {"Ingresos", "frmNotaIngreso"},
                                                               {"Envíos", ""},
                                                               {"Reporte1", ""},
