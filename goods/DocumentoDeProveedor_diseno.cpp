@@ -23,20 +23,20 @@ void DocumentoDeProveedor::Disenar() {
     setColocarFraMain(false);
     colocar(fraMain, 120, 450, 9360, 1290);
 
-    etiqueta(textos_.etiquetaNumero, 120, 150, 1150);
-    txtNumero = campo<CajaTexto>(textos_.nombreNumero, 1320, 120, 1400);
+    etiqueta(textos_.etiquetaNumero, 120, 150, 1300);
+    txtNumero = campo<CajaTexto>(textos_.nombreNumero, 1480, 120, 1400);
     txtNumero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     enlazar(txtNumero, datos, textos_.columnaNumero);
-    etiqueta(QStringLiteral("Fecha:"), 3000, 150, 600);
-    dpFecha = campo<SelectorFecha>(QStringLiteral("dpFecha"), 3640, 120, 1500, 300);
+    etiqueta(QStringLiteral("Fecha:"), 3160, 150, 600);
+    dpFecha = campo<SelectorFecha>(QStringLiteral("dpFecha"), 3800, 120, 1500, 300);
 
-    cmdProveedor = campo<QPushButton>(QStringLiteral("cmdProveedor"), 120, 465, 1150, 315);
+    cmdProveedor = campo<QPushButton>(QStringLiteral("cmdProveedor"), 120, 465, 1300, 315);
     cmdProveedor->setText(QStringLiteral("Proveedor >"));
-    lblNombre = recuadro(campo<QLabel>(QStringLiteral("lblNombre"), 1320, 480, 7900));
+    lblNombre = recuadro(campo<QLabel>(QStringLiteral("lblNombre"), 1480, 480, 7740));
     lblNombre->setText(QStringLiteral("Nombre del proveedor"));
 
-    etiqueta(QStringLiteral("Descripcion:"), 120, 870, 1150);
-    txtDescripcion = campo<CajaTexto>(QStringLiteral("txtDescripcion"), 1320, 840, 7900);
+    etiqueta(QStringLiteral("Descripcion:"), 120, 870, 1300);
+    txtDescripcion = campo<CajaTexto>(QStringLiteral("txtDescripcion"), 1480, 840, 7740);
     enlazar(txtDescripcion, datos, QStringLiteral("Descripcion"));
 
     fgDetalle = new GrillaDetalle(this);
