@@ -209,11 +209,15 @@ bool DocumentoDeProveedor::GuardarLineas(const std::function<void(int, const QSt
     });
 }
 
-// BeginTrans leaves TransaccionActiva as it was: the deletion is over before anything else runs.
+// BeginTrans leaves TransaccionActiva as it was: the deletion is over before anything else runs. Only
+// the deletion's own transaction is rolled back: one that another screen holds open on the shared
+// connection refuses this BeginTrans and stays as it was.
 void DocumentoDeProveedor::EliminarConLineas(const std::function<void(const store::Fallo&)>& avisar) {
     store::Conexion& cn = Common::DE().CN;
+    bool propia = false;
     try {
         cn.BeginTrans();
+        propia = true;
         const QString clave = runtime::TextoDe(datos->Recordset()->Fields(textos_.columnaClave).Value());
         cn.Execute(textos_.eliminarLineas + clave);
         cn.Execute(textos_.eliminarDocumento + clave);
@@ -222,7 +226,7 @@ void DocumentoDeProveedor::EliminarConLineas(const std::function<void(const stor
         datos->Refresh();
         Mostrar();
     } catch (const store::Fallo& fallo) {
-        if (cn.nivelTransaccion() > 0) cn.RollbackTrans();
+        if (propia && cn.nivelTransaccion() > 0) cn.RollbackTrans();
         avisar(fallo);
     }
 }
