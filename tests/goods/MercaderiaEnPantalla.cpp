@@ -28,13 +28,6 @@ MercaderiaEnPantalla::MercaderiaEnPantalla() {
     programa_ = std::make_unique<ProgramaDePrueba>();
 }
 
-MercaderiaEnPantalla::~MercaderiaEnPantalla() {
-    entorno_.reset();
-    programa_.reset();
-    base_.reset();
-    reloj_.reset();
-}
-
 QString MercaderiaEnPantalla::existencia(const QString& nombre) const {
     return db(
         "SELECT shw1000_dbl_Existencia FROM vwBuscaArticulo WHERE shw3800_str_Descripcion_del_articulo = '" +
@@ -75,39 +68,40 @@ void MercaderiaEnPantalla::enLinea(std::function<void(frmNotaIngresoArticulo&)> 
     });
 }
 
-void MercaderiaEnPantalla::articuloNuevo(const QString& nombre, const QString& cantidad, const QString& costo,
-                                         const QString& contado, const QString& credito) {
-    enLinea([=](frmNotaIngresoArticulo& d) {
-        pulsarBotonDe(d, QStringLiteral("Nuevo"));
-        escribir(d.txtNombre, nombre);
-        escribir(d.txtCantidad, cantidad);
-        escribir(d.txtCosto, costo);
-        QTest::mouseClick((*d.optContado)(0), Qt::LeftButton);
-        escribir(d.txtContadoPorcentaje, contado);
-        QTest::mouseClick((*d.optCredito)(0), Qt::LeftButton);
-        escribir(d.txtCreditoPorcentaje, credito);
-        pulsarBotonDe(d, QStringLiteral("&Aceptar"));
+void MercaderiaEnPantalla::articuloNuevo(const QStringList& t, QString* mensaje) {
+    enLinea([=, this](frmNotaIngresoArticulo& d) {
+        pulsarBoton(d.cmdBoton, QStringLiteral("Nuevo"));
+        escribir(d.txtNombre, t[0]);
+        escribir(d.txtCantidad, t[1]);
+        escribir(d.txtCosto, t[2]);
+        const auto margen = [](shell::ArregloDeOpciones* opciones, const QString& opcion,
+                               shell::CajaTexto* porcentaje, shell::CajaTexto* valor, const QString& cifra) {
+            if (opcion != "-") QTest::mouseClick((*opciones)(opcion.toInt()), Qt::LeftButton);
+            if (!cifra.isEmpty()) escribir(opcion == "1" ? valor : porcentaje, cifra);
+            // Only a click selects an option.
+            QCOMPARE(opciones->Valor(), opcion == "-" ? -1 : opcion.toInt());
+        };
+        margen(d.optContado, t[3], d.txtContadoPorcentaje, d.txtContadoValor, t[4]);
+        margen(d.optCredito, t[5], d.txtCreditoPorcentaje, d.txtCreditoValor, t[6]);
+        QCOMPARE(d.lblContadoPrecio->text(), QStringLiteral("0.00")); // no price is worked out
+        if (mensaje) responder(*entorno_, QStringLiteral("cmdClose"), mensaje);
+        pulsarBoton(d.cmdBoton, QStringLiteral("&Aceptar"));
+        if (mensaje) pulsarBoton(d.cmdBoton, QStringLiteral("&Cancelar"));
     });
 }
 
 void MercaderiaEnPantalla::articuloExistente(const QString& nombre, const QString& cantidad,
                                              const QString& costo) {
     enLinea([=](frmNotaIngresoArticulo& d) {
-        pulsarBotonDe(d, QStringLiteral("Buscar"));
+        pulsarBoton(d.cmdBoton, QStringLiteral("Buscar"));
         activar(d);
         escribir(d.txtCantidad, cantidad);
         escribir(d.txtCosto, costo);
-        pulsarBotonDe(d, QStringLiteral("&Aceptar"));
+        pulsarBoton(d.cmdBoton, QStringLiteral("&Aceptar"));
     });
     elegirEnBusqueda(*entorno_, nombre);
 }
 
 void MercaderiaEnPantalla::tecla(DocumentoDeProveedor& p, Qt::Key k, int fila) {
     teclaEnGrilla(p, *p.fgDetalle, k, fila);
-}
-
-void pulsarBotonDe(QWidget& dialogo, const QString& caption) {
-    for (QPushButton* b : dialogo.findChildren<QPushButton*>())
-        if (b->text() == caption) return QTest::mouseClick(b, Qt::LeftButton);
-    QFAIL(qPrintable(dialogo.objectName() + " has no button " + caption));
 }

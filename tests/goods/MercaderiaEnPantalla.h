@@ -23,7 +23,6 @@
 class MercaderiaEnPantalla {
 public:
     MercaderiaEnPantalla();
-    ~MercaderiaEnPantalla();
 
     BaseDePrueba& base() { return *base_; }
     EntornoDePantallas& entorno() { return *entorno_; }
@@ -48,20 +47,19 @@ public:
     // The next goods-in line dialog, made active and acted on; "&Aceptar" or "&Cancelar" pressed by
     // `accion` itself.
     void enLinea(std::function<void(mercaderia::frmNotaIngresoArticulo&)> accion);
-    // A new article typed after "Nuevo", each margin's "Porcentaje" clicked and typed, accepted.
-    void articuloNuevo(const QString& nombre, const QString& cantidad, const QString& costo,
-                       const QString& contado, const QString& credito);
+    // A new article typed after "Nuevo": name, quantity, cost, then per margin group (cash, credit) the
+    // option clicked ("-" none) and the figure typed in the field it opened. "&Aceptar"; when it is
+    // refused, its message kept in `mensaje` and the dialog left by "&Cancelar".
+    void articuloNuevo(const QStringList& tecleado, QString* mensaje = nullptr);
     // An existing article found with "Buscar" by its name, quantity and cost typed, accepted.
     void articuloExistente(const QString& nombre, const QString& cantidad, const QString& costo);
     // A key on fgDetalle's row `fila`.
     void tecla(mercaderia::DocumentoDeProveedor& p, Qt::Key k, int fila = 1);
 
 private:
+    // Gone in the reverse order: the screens and the driver first, the database and the clock last.
     std::unique_ptr<runtime::RelojFijo> reloj_;
     std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
     std::unique_ptr<ProgramaDePrueba> programa_;
+    std::unique_ptr<EntornoDePantallas> entorno_;
 };
-
-// A button of a dialog pressed by its caption.
-void pulsarBotonDe(QWidget& dialogo, const QString& caption);
