@@ -4,6 +4,7 @@
 #include "catalogs/Catalogos.h"
 #include "credit/Credito.h"
 #include "goods/Mercaderia.h"
+#include "payables/Pagos.h"
 
 namespace aplicacion {
 
@@ -12,6 +13,7 @@ void RegistrarPantallas() {
     credito::registrarPantallas();
     caja::registrarPantallas();
     mercaderia::registrarPantallas();
+    pagos::registrarPantallas();
 }
 
 } // namespace aplicacion

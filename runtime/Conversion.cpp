@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
 namespace runtime {
 
@@ -110,6 +111,11 @@ qint32 CLng(double x) {
     constexpr double minimo = std::numeric_limits<qint32>::min();
     constexpr double maximo = std::numeric_limits<qint32>::max();
     return static_cast<qint32>(std::clamp(entero, minimo, maximo));
+}
+
+double CDbl(const QString& texto) {
+    if (!EsNumero(texto)) throw std::invalid_argument("No coinciden los tipos");
+    return Val(QString(texto).remove(QLatin1Char(',')));
 }
 
 qint32 CLng(const QVariant& valor) {

@@ -25,6 +25,11 @@ bool EsNulo(const QVariant& valor);
 double Int(double x); // down: Int(-2.5) = -3
 double Fix(double x); // toward zero: Fix(-2.5) = -2
 
+// A number from text that must be one, as VB's CDbl: the whole trimmed text a number (thousands commas
+// allowed); an empty text or anything else throws std::invalid_argument ("No coinciden los tipos", VB's
+// error 13).
+double CDbl(const QString& texto);
+
 // Halves go to the even integer, as in VB (2.5 -> 2, 3.5 -> 4).
 qint32 CLng(double x);
 qint32 CLng(const QVariant& valor);

@@ -30,6 +30,7 @@ QIcon para(const QString& caption) {
     static const QHash<QString, QString> archivos = {
         {QStringLiteral("Buscar"), QStringLiteral("buscar")},
         {QStringLiteral("Agregar"), QStringLiteral("agregar")},
+        {QStringLiteral("Nuevo"), QStringLiteral("agregar")},
         {QStringLiteral("Modificar"), QStringLiteral("modificar")},
         {QStringLiteral("Eliminar"), QStringLiteral("eliminar")},
         {QStringLiteral("Imprimir"), QStringLiteral("imprimir")},

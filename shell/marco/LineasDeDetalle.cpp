@@ -26,6 +26,7 @@ LineasDeDetalle::LineasDeDetalle(Marco& pantalla, GrillaDetalle& grilla, const b
 
 void LineasDeDetalle::Tecla(int KeyCode, int Shift) {
     if (!editando_) return;
+    if (teclasHabilitadas && !teclasHabilitadas()) return;
     if (KeyCode == vbKeyReturn)
         alEditar();
     else if (KeyCode == vbKeyInsert)

@@ -42,6 +42,9 @@ public:
     // Whether a row is the grid's blank row, which the first real line replaces; by default, an
     // empty first cell.
     std::function<bool(int fila)> filaEnBlanco;
+    // Whether the keys work at all beyond Editando (a screen whose keys also wait for a party to be
+    // chosen); by default they do. A double click doesn't ask.
+    std::function<bool()> teclasHabilitadas;
     // Whether editing a line (Enter, double click) dims the screen's title while the dialog stands;
     // adding one always does.
     bool atenuarAlEditar = true;

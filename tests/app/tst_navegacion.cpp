@@ -55,8 +55,8 @@ void TstNavegacion::menuAbreSuPantalla_data() {
                                                               {"Créditos", "frmSolicitud"},
                                                               {"Recibos", "frmRecibo"},
                                                               {"Facturas", "frmFactura"},
-                                                              {"Pagos", ""},
-                                                              {"Ingresos", ""},
+                                                              {"Pagos", "frmDocumentos"},
+                                                              {"Ingresos", "frmNotaIngreso"},
                                                               {"Envíos", "frmNotaEnvio"},
                                                               {"Reporte1", ""},
                                                               {"Reporte2", ""},
@@ -82,8 +82,8 @@ void TstNavegacion::barraAbreSuPantalla_data() {
     QTest::newRow("Creditos") << QStringLiteral("Creditos") << QStringLiteral("frmSolicitud");
     QTest::newRow("Recibos") << QStringLiteral("Recibos") << QStringLiteral("frmRecibo");
     QTest::newRow("Facturas") << QStringLiteral("Facturas") << QStringLiteral("frmFactura");
+    QTest::newRow("Ingresos") << QStringLiteral("Ingresos") << QStringLiteral("frmNotaIngreso");
     QTest::newRow("Envios") << QStringLiteral("Envios") << QStringLiteral("frmNotaEnvio");
-    QTest::newRow("Ingresos") << QStringLiteral("Ingresos") << QString();
 }
 
 void TstNavegacion::barraAbreSuPantalla() {

@@ -3,6 +3,9 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QTest>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
 
 using namespace runtime;
 
@@ -195,6 +198,28 @@ private slots:
         QFETCH(QString, texto);
         QFETCH(bool, esperado);
         QCOMPARE(EsNumero(texto), esperado);
+    }
+
+    // Strict where Val is lenient: what isn't wholly a number is a failure, not 0. NaN marks a failure.
+    void cdbl_data() {
+        QTest::addColumn<QString>("texto");
+        QTest::addColumn<double>("esperado");
+        const double falla = std::numeric_limits<double>::quiet_NaN();
+        QTest::newRow("importe") << "12.50" << 12.5;
+        QTest::newRow("miles") << "1,500.00" << 1500.0;
+        QTest::newRow("blancos") << " 0.00 " << 0.0;
+        QTest::newRow("vacío") << "" << falla;
+        QTest::newRow("asterisco") << "*" << falla;
+        QTest::newRow("letra al final") << "12a" << falla;
+    }
+    void cdbl() {
+        QFETCH(QString, texto);
+        QFETCH(double, esperado);
+        if (std::isnan(esperado)) {
+            QVERIFY_THROWS_EXCEPTION(std::invalid_argument, CDbl(texto));
+            return;
+        }
+        QCOMPARE(CDbl(texto), esperado);
     }
 };
 

@@ -15,6 +15,10 @@
 #include "credit/frmSolicitud.h"
 #include "credit/frmSolicitudArticulo.h"
 #include "goods/frmNotaEnvio.h"
+#include "goods/frmNotaIngreso.h"
+#include "goods/frmNotaIngresoArticulo.h"
+#include "payables/frmDocumentoPago.h"
+#include "payables/frmDocumentos.h"
 #include "shell/busqueda/frmBusca.h"
 #include "shell/busqueda/frmListado.h"
 #include "shell/common/Common.h"
@@ -30,9 +34,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QRadioButton>
 #include <QTableView>
 #include <QTest>
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -47,15 +53,18 @@ void guardar(const QPixmap& imagen, const QString& nombre) {
 
 // Each modal screen shown is captured under the next name queued, then closed as its close box would.
 // Instead, kElegir (or "*" and a row number) picks the first (or that) row of a search or a pick
-// list, as a double click does; and "name|figure" captures a line dialog, then types the figure as
-// its price and accepts it.
+// list, as a double click does; "name|figure" captures a line dialog, then types the figure as its
+// price and accepts it; and kActuar runs the next action of `acciones` on the screen.
 QStringList pendientes;
 const QString kElegir = QStringLiteral("*");
+const QString kActuar = QStringLiteral("!");
+QList<std::function<void(shell::Formulario&)>> acciones;
 
 void capturarModales() {
     Common::InstalarConductorModal([](shell::Formulario& f) {
         QCoreApplication::processEvents();
         const QString nombre = pendientes.isEmpty() ? f.objectName() : pendientes.takeFirst();
+        if (nombre == kActuar) return acciones.takeFirst()(f);
         if (nombre.startsWith(kElegir)) {
             auto* rejilla = f.findChild<QTableView*>();
             const QRect celda = rejilla->visualRect(rejilla->model()->index(nombre.mid(1).toInt(), 1));
@@ -326,6 +335,95 @@ int main(int argc, char* argv[]) {
     QCoreApplication::processEvents();
     guardar(envio.grab(), QStringLiteral("frmNotaEnvio-editando"));
     QTest::mouseClick(envio.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // Goods in: the first note found; then a new one from the first supplier listed, with a new article
+    // typed in the line dialog (captured) and an existing one found in it.
+    const auto teclearEn = [](QWidget& ventana, QWidget* campo, const QString& texto) {
+        QApplication::setActiveWindow(&ventana);
+        campo->setFocus();
+        QTest::keyClick(campo, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(campo, texto);
+        QTest::keyClick(campo, Qt::Key_Tab);
+    };
+    auto& ingreso = Common::Pantalla<mercaderia::frmNotaIngreso>();
+    ingreso.Show();
+    ingreso.move(10, 10);
+    pendientes << kElegir;
+    QTest::mouseClick(ingreso.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(ingreso.grab(), QStringLiteral("frmNotaIngreso-consultando"));
+    QTest::mouseClick(ingreso.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    pendientes << kElegir;
+    QTest::mouseClick(ingreso.cmdProveedor, Qt::LeftButton);
+    teclearEn(ingreso, ingreso.txtDescripcion, QStringLiteral("Factura 2291, pedido de marzo"));
+    const auto boton = [](QWidget& d, const QString& caption) {
+        for (QPushButton* b : d.findChildren<QPushButton*>())
+            if (b->text() == caption) QTest::mouseClick(b, Qt::LeftButton);
+    };
+    pendientes << kActuar;
+    acciones << [&](shell::Formulario& f) {
+        auto& d = static_cast<mercaderia::frmNotaIngresoArticulo&>(f);
+        boton(d, QStringLiteral("Nuevo"));
+        teclearEn(d, d.txtNombre, QStringLiteral("Secadora"));
+        teclearEn(d, d.txtModelo, QStringLiteral("DV45 7.5 pies"));
+        teclearEn(d, d.txtColor, QStringLiteral("Blanco"));
+        teclearEn(d, d.txtCantidad, QStringLiteral("3"));
+        teclearEn(d, d.txtCosto, QStringLiteral("2950"));
+        QTest::mouseClick((*d.optContado)(0), Qt::LeftButton);
+        teclearEn(d, d.txtContadoPorcentaje, QStringLiteral("25"));
+        QTest::mouseClick((*d.optCredito)(0), Qt::LeftButton);
+        teclearEn(d, d.txtCreditoPorcentaje, QStringLiteral("45"));
+        QCoreApplication::processEvents();
+        guardar(d.grab(), QStringLiteral("frmNotaIngresoArticulo"));
+        boton(d, QStringLiteral("&Aceptar"));
+    };
+    ingreso.fgDetalle->setFocus();
+    QTest::keyClick(ingreso.fgDetalle, Qt::Key_Insert);
+    pendientes << kActuar << kElegir;
+    acciones << [&](shell::Formulario& f) {
+        auto& d = static_cast<mercaderia::frmNotaIngresoArticulo&>(f);
+        boton(d, QStringLiteral("Buscar")); // the first article
+        teclearEn(d, d.txtCantidad, QStringLiteral("2"));
+        teclearEn(d, d.txtCosto, QStringLiteral("4150"));
+        boton(d, QStringLiteral("&Aceptar"));
+    };
+    ingreso.fgDetalle->setFocus();
+    QTest::keyClick(ingreso.fgDetalle, Qt::Key_Insert);
+    QCoreApplication::processEvents();
+    guardar(ingreso.grab(), QStringLiteral("frmNotaIngreso-editando"));
+    QTest::mouseClick(ingreso.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // Payables: the first document found; then a new one for the first supplier listed, paying part of
+    // its first open note (the amount typed in the prompt).
+    auto& documentos = Common::Pantalla<pagos::frmDocumentos>();
+    documentos.Show();
+    documentos.move(30, 30);
+    pendientes << kElegir;
+    QTest::mouseClick(documentos.cmdBoton[0], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    guardar(documentos.grab(), QStringLiteral("frmDocumentos-consultando"));
+    QTest::mouseClick(documentos.cmdBoton[1], Qt::LeftButton); // "Agregar"
+    pendientes << kElegir;
+    QTest::mouseClick(documentos.cmdProveedor, Qt::LeftButton);
+    teclearEn(documentos, documentos.txtDescripcion, QStringLiteral("Cheque 10245 Banrural"));
+    pendientes << kElegir << kActuar;
+    acciones << [&](shell::Formulario& f) {
+        auto* caja = f.findChild<QLineEdit*>(QStringLiteral("txtTexto"));
+        caja->selectAll();
+        QTest::keyClicks(caja, QStringLiteral("1500"));
+        boton(f, QStringLiteral("Aceptar"));
+    };
+    documentos.fgDetalle->setFocus();
+    QTest::keyClick(documentos.fgDetalle, Qt::Key_Insert);
+    QCoreApplication::processEvents();
+    guardar(documentos.grab(), QStringLiteral("frmDocumentos-editando"));
+    QTest::mouseClick(documentos.cmdBoton[6], Qt::LeftButton); // "Cancelar"
+
+    // The instalment dialog, which no screen opens yet.
+    pendientes << QStringLiteral("frmDocumentoPago");
+    auto& pago = Common::Pantalla<pagos::frmDocumentoPago>();
+    pago.Move(documentos.Left() + 300, documentos.Top() + 300);
+    pago.ShowModal();
 
     // The article line dialog as a search for an article leaves it: cost 100 with a cash margin of 25 %,
     // one unit; opened at its caller's Left + 300, Top + 300.
