@@ -2,9 +2,6 @@
 
 #include "credit/frmSolicitudArticulo.h"
 
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTableView>
 #include <QtTest>
 
@@ -60,49 +57,6 @@ void FacturaEnPantalla::pulsar(const QString& caption) {
     if (!p.descargado() && p.isVisible()) activar(p); // back from whatever it opened
 }
 
-void FacturaEnPantalla::activar(QWidget& ventana) {
-    ventana.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana))
-        qWarning("%s did not become active", qPrintable(ventana.objectName()));
-}
-
-void FacturaEnPantalla::escribir(QWidget* caja, const QString& texto) {
-    activar(*caja->window());
-    caja->setFocus();
-    if (auto* linea = qobject_cast<QLineEdit*>(caja)) linea->selectAll();
-    if (texto.isEmpty())
-        QTest::keyClick(caja, Qt::Key_Delete);
-    else
-        teclear(caja, texto);
-    QTest::keyClick(caja, Qt::Key_Tab);
-}
-
-void FacturaEnPantalla::elegir(const QString& celda, QStringList* vistos, const QString& columna) {
-    entorno_->alMostrarModal([celda, vistos, columna](shell::Formulario& busca) {
-        auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
-        if (busca.objectName() != QLatin1String("frmBusca") || !rejilla) {
-            busca.Unload();
-            QFAIL(qPrintable("the search screen was awaited, not " + busca.objectName()));
-        }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
-        const QAbstractItemModel* m = rejilla->model();
-        if (vistos)
-            for (int c = 0; c < m->columnCount(); ++c)
-                if (m->headerData(c, Qt::Horizontal).toString() == columna)
-                    for (int f = 0; f < m->rowCount(); ++f)
-                        *vistos << m->index(f, c).data().toString();
-        if (!celda.isEmpty())
-            for (int f = 0; f < m->rowCount(); ++f)
-                for (int c = 0; c < m->columnCount(); ++c)
-                    if (m->index(f, c).data().toString() == celda) {
-                        QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {},
-                                           rejilla->visualRect(m->index(f, c)).center());
-                        return;
-                    }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-    });
-}
-
 void FacturaEnPantalla::elegirDeLista(const QString& descripcion) {
     entorno_->alMostrarModal([descripcion](shell::Formulario& lista) {
         auto* rejilla = lista.findChild<QTableView*>(QStringLiteral("DataGrid"));
@@ -135,44 +89,14 @@ void FacturaEnPantalla::responderLinea(const QString& cantidad, const QString& p
     });
 }
 
-void FacturaEnPantalla::responder(const QString& boton, QString* texto) {
-    entorno_->alMostrarModal([boton, texto](shell::Formulario& d) {
-        if (texto)
-            for (const char* nombre : {"lblPregunta", "lblMensaje"})
-                if (auto* l = d.findChild<QLabel*>(QLatin1String(nombre))) *texto = l->text();
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == boton || b->objectName() == boton) return QTest::mouseClick(b, Qt::LeftButton);
-        QFAIL(qPrintable("the dialog has no button " + boton));
-    });
-}
-
 void FacturaEnPantalla::tecla(Qt::Key k, int fila, Qt::KeyboardModifiers modificadores) {
     auto& p = pantalla();
-    activar(p);
-    p.fgDetalle->setFocus();
-    p.fgDetalle->setRow(fila);
-    QTest::keyClick(p.fgDetalle, k, modificadores);
-    activar(p);
+    teclaEnGrilla(p, *p.fgDetalle, k, fila, modificadores);
 }
 
 void FacturaEnPantalla::dobleClic(int fila) {
     auto& p = pantalla();
-    activar(p);
-    QTest::mouseDClick(p.fgDetalle->viewport(), Qt::LeftButton, {},
-                       p.fgDetalle->visualItemRect(p.fgDetalle->item(fila - 1, 4)).center());
-    activar(p);
-}
-
-QStringList FacturaEnPantalla::filas() {
-    auto& p = pantalla();
-    QStringList r;
-    for (int f = 1; f < p.fgDetalle->Rows(); ++f) {
-        QStringList celdas;
-        for (int c = 0; c < p.fgDetalle->Cols(); ++c)
-            celdas << p.fgDetalle->TextMatrix(f, c);
-        r << celdas.join(u'|');
-    }
-    return r;
+    dobleClicEnGrilla(p, *p.fgDetalle, fila);
 }
 
 void FacturaEnPantalla::facturarSolicitud(const QString& numero) {

@@ -3,9 +3,10 @@
 // What the invoice's test programs share: the store's rows before each test, the screen opened from
 // "Facturas" as the clerk opens it, and the clerk's gestures on it (the bar, typing and leaving a field,
 // the searches and the pick list answered, the line dialog answered, keys and double clicks on the
-// grid, the dialogs answered by their buttons).
+// grid, the dialogs answered by their buttons), made of the shared gestures of Gestos.h.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "Gestos.h"
 #include "ProgramaDePrueba.h"
 #include "cash/frmFactura.h"
 #include "runtime/Fechas.h"
@@ -43,30 +44,33 @@ public:
     caja::frmFactura& pantalla();
     void pulsar(const QString& caption);
 
-    // The window takes the keyboard, as the one in front does.
-    static void activar(QWidget& ventana);
-    // Into a box as the clerk does: focus, what it held selected and typed over, Tab to leave it.
-    void escribir(QWidget* caja, const QString& texto);
+    // Into a box as the clerk does (escribir), its window, the screen's or a dialog's, made active
+    // first.
+    static void escribir(QWidget* caja, const QString& texto) {
+        activar(*caja->window());
+        ::escribir(caja, texto);
+    }
 
-    // The next search screen answered: "&Buscar" with no filter, then a double click on the first row
-    // with a cell that reads `celda`; the close box when none does (or `celda` is empty). The texts of
-    // the column headed `columna`, row by row, go to `vistos` when asked for.
+    // The next search screen answered by a row with this cell (elegirEnBusqueda); the texts of the
+    // column headed `columna` go to `vistos` when asked for.
     void elegir(const QString& celda, QStringList* vistos = nullptr,
-                const QString& columna = QStringLiteral("Solicitud"));
+                const QString& columna = QStringLiteral("Solicitud")) {
+        elegirEnBusqueda(*entorno_, celda, vistos, columna);
+    }
     // The next pick list answered by a double click on the row of this description (none: closed).
     void elegirDeLista(const QString& descripcion);
     // The next line dialog answered: the quantity and the price typed where given, then "&Aceptar"
     // (or, with `aceptar` false, the close box).
     void responderLinea(const QString& cantidad, const QString& precio, bool aceptar = true);
     // The next dialog answered by a button of this caption (or "cmdClose"); its text kept in `texto`.
-    void responder(const QString& boton, QString* texto = nullptr);
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
 
     // A key on the grid, on its row `fila`, with its modifiers.
     void tecla(Qt::Key k, int fila = 1, Qt::KeyboardModifiers modificadores = Qt::NoModifier);
     // A double click on the cells of row `fila`.
     void dobleClic(int fila);
     // The grid's data rows, cells joined by "|".
-    QStringList filas();
+    QStringList filas() { return filasDe(*pantalla().fgDetalle); }
 
     // "Agregar", then application `numero` typed in and the field left.
     void facturarSolicitud(const QString& numero);

@@ -209,7 +209,7 @@ void TstFrmFactura::f2OfreceSoloLasCanceladas() {
     QCOMPARE(p.txtNIT->text(), QStringLiteral("C/F"));
     QCOMPARE(p.SolicitudID, 0L);
     QCOMPARE(f_->filas(), QStringList{"||||||"});
-    f_->activar(p);
+    activar(p);
     QTest::keyClick(p.txtNumeroSolicitud, Qt::Key_Tab);
     QCOMPARE(p.SolicitudID, 4L);
     QCOMPARE(f_->filas(), QStringList{"2|0|1|1|ESTUFA E4 GRIS|130.00|130.00"});
@@ -277,7 +277,7 @@ void TstFrmFactura::nitDeCadaForma() {
             QTest::mouseClick(p.cmdCliente, Qt::LeftButton);
             QCOMPARE(p.txtNombreCliente->text(), QStringLiteral("PEDRO RAMÍREZ"));
         } else {
-            f_->activar(p);
+            activar(p);
             QTest::mouseDClick(p.txtNombreCliente, Qt::LeftButton);
             f_->escribir(p.txtNombreCliente, QStringLiteral("juan soto"));
         }
