@@ -3,18 +3,14 @@
 // What the invoice's test programs share: the store's rows before each test, the screen opened from
 // "Facturas" as the clerk opens it, and the clerk's gestures on it (the bar, typing and leaving a field,
 // the searches and the pick list answered, the line dialog answered, keys and double clicks on the
-// grid, the dialogs answered by their buttons), made of the shared gestures of Gestos.h.
-#include "BaseDePrueba.h"
-#include "EntornoDePantallas.h"
-#include "Gestos.h"
-#include "ProgramaDePrueba.h"
+// grid, the dialogs answered by their buttons), made of the shared gestures of Gestos.h, on the frame
+// of EnPantalla.h.
+#include "EnPantalla.h"
 #include "cash/frmFactura.h"
-#include "runtime/Fechas.h"
 
 #include <QDate>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // Today, unless a test moves the clock.
 inline const QDate kHoyFactura(2026, 3, 10);
@@ -30,19 +26,16 @@ inline const QDate kHoyFactura(2026, 3, 10);
 //                52 (key 3): pending, ANA LUCÍA; 1 refrigerator for 500, nothing paid
 //                53 (key 4): paid off (state 2), LUISA; 1 stove for 130, paid 150: balance -20.00
 //   invoices     7 (key 1) of 20/02/2026 to ANA LUCÍA: 1 stove at 130.00, cash 200.00, change 70.00
-class FacturaEnPantalla {
+class FacturaEnPantalla : public EnPantalla<caja::frmFactura> {
 public:
-    // The clock stopped on kHoyFactura; a test moves it with runtime::FijarReloj.
+    // The clock stopped on kHoyFactura; the screen opened from "Facturas".
     FacturaEnPantalla();
-    ~FacturaEnPantalla();
 
-    BaseDePrueba& base() { return *base_; }
-    EntornoDePantallas& entorno() { return *entorno_; }
-    QString db(const QString& consulta) const { return base_->valor(consulta); }
-
-    // "Facturas" in the menu the first time; the screen standing open afterwards.
-    caja::frmFactura& pantalla();
-    void pulsar(const QString& caption);
+    // A button of the bar, the screen made active before it as well.
+    void pulsar(const QString& caption) {
+        activar(pantalla());
+        EnPantalla::pulsar(caption);
+    }
 
     // Into a box as the clerk does (escribir), its window, the screen's or a dialog's, made active
     // first.
@@ -55,7 +48,7 @@ public:
     // column headed `columna` go to `vistos` when asked for.
     void elegir(const QString& celda, QStringList* vistos = nullptr,
                 const QString& columna = QStringLiteral("Solicitud")) {
-        elegirEnBusqueda(*entorno_, celda, vistos, columna);
+        elegirEnBusqueda(entorno(), celda, vistos, columna);
     }
     // The next pick list answered by a double click on the row of this description (none: closed).
     void elegirDeLista(const QString& descripcion);
@@ -63,7 +56,7 @@ public:
     // (or, with `aceptar` false, the close box).
     void responderLinea(const QString& cantidad, const QString& precio, bool aceptar = true);
     // The next dialog answered by a button of this caption (or "cmdClose"); its text kept in `texto`.
-    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(entorno(), boton, texto); }
 
     // A key on the grid, on its row `fila`, with its modifiers.
     void tecla(Qt::Key k, int fila = 1, Qt::KeyboardModifiers modificadores = Qt::NoModifier);
@@ -78,10 +71,4 @@ public:
     void agregarArticulo(const QString& articulo, const QString& cantidad, const QString& precio);
     // Shift+Insert: the concept of this description from the list, then its dialog.
     void agregarConcepto(const QString& concepto, const QString& cantidad, const QString& precio);
-
-private:
-    std::unique_ptr<runtime::RelojFijo> reloj_;
-    std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
-    std::unique_ptr<ProgramaDePrueba> programa_;
 };
