@@ -2,109 +2,44 @@
 
 #include "credit/frmSolicitudArticulo.h"
 
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTableView>
 #include <QtTest>
 
 using caja::frmFactura;
 
-FacturaEnPantalla::FacturaEnPantalla() {
-    reloj_ = std::make_unique<runtime::RelojFijo>(QDateTime(kHoyFactura, QTime(9, 30)));
-    base_ = std::make_unique<BaseDePrueba>(true);
-    base_->sqlite(
-        "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, NIT, CodigoLetra, CodigoNumero, Limite) VALUES "
-        "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1234567-8', 'G', 1, 5000), (2, 'PEDRO', 'RAMÍREZ', '', 'R', 1, 5000),"
-        "(3, 'LUISA', 'MÉNDEZ', 'C/F', 'M', 1, 5000);"
-        "INSERT INTO Fiador (FiadorID, Nombres, Apellidos) VALUES (1, 'MARIO', 'LÓPEZ');"
-        "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
-        "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0), (2, 'ESTUFA', 'E4', 'GRIS', 100, 0, 30);"
-        "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, FiadorID, MesesCredito, "
-        "DiaPago, Descuento, Enganche, Estado) VALUES "
-        "(1, 50, '2026-01-05', 1, 1, 2, 5, 60, 200, 1), (2, 51, '2026-01-06', 2, 1, 1, 5, 0, 0, 1),"
-        "(3, 52, '2026-01-07', 1, 1, 1, 5, 0, 0, 0), (4, 53, '2026-01-08', 3, 1, 1, 5, 0, 0, 2);"
-        "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
-        "(1, 1, 1, 500), (1, 2, 2, 260), (2, 2, 1, 130), (3, 1, 1, 500), (4, 2, 1, 130);"
-        "INSERT INTO Recibo (ReciboID, NumeroRecibo, Fecha, SolicitudID, Efectivo) VALUES "
-        "(1, 1, '2026-02-01', 1, 700), (2, 2, '2026-02-02', 2, 129.99), (3, 3, '2026-02-03', 4, 150);"
-        "INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
-        "(1, 1, 0, 1, 200), (1, 3, 0, 1, 500), (2, 3, 0, 1, 129.99), (3, 3, 0, 1, 150);"
-        "INSERT INTO Factura (FacturaID, NumeroFactura, Fecha, ClienteID, Descuento, Efectivo, Vuelto, "
-        "Estado) VALUES (1, 7, '2026-02-20', 1, 0, 200, 70, 0);"
-        "INSERT INTO FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES "
-        "(1, 2, 1, 0, 130);");
-    entorno_ = std::make_unique<EntornoDePantallas>();
-    programa_ = std::make_unique<ProgramaDePrueba>();
-}
+namespace {
 
-FacturaEnPantalla::~FacturaEnPantalla() {
-    entorno_.reset();
-    programa_.reset();
-    base_.reset();
-    reloj_.reset();
-}
+// The rows every test starts from, as FacturaEnPantalla.h tells them.
+constexpr char kFilas[] =
+    "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, NIT, CodigoLetra, CodigoNumero, Limite) VALUES "
+    "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1234567-8', 'G', 1, 5000), (2, 'PEDRO', 'RAMÍREZ', '', 'R', 1, 5000),"
+    "(3, 'LUISA', 'MÉNDEZ', 'C/F', 'M', 1, 5000);"
+    "INSERT INTO Fiador (FiadorID, Nombres, Apellidos) VALUES (1, 'MARIO', 'LÓPEZ');"
+    "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
+    "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0), (2, 'ESTUFA', 'E4', 'GRIS', 100, 0, 30);"
+    "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, FiadorID, MesesCredito, "
+    "DiaPago, Descuento, Enganche, Estado) VALUES "
+    "(1, 50, '2026-01-05', 1, 1, 2, 5, 60, 200, 1), (2, 51, '2026-01-06', 2, 1, 1, 5, 0, 0, 1),"
+    "(3, 52, '2026-01-07', 1, 1, 1, 5, 0, 0, 0), (4, 53, '2026-01-08', 3, 1, 1, 5, 0, 0, 2);"
+    "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
+    "(1, 1, 1, 500), (1, 2, 2, 260), (2, 2, 1, 130), (3, 1, 1, 500), (4, 2, 1, 130);"
+    "INSERT INTO Recibo (ReciboID, NumeroRecibo, Fecha, SolicitudID, Efectivo) VALUES "
+    "(1, 1, '2026-02-01', 1, 700), (2, 2, '2026-02-02', 2, 129.99), (3, 3, '2026-02-03', 4, 150);"
+    "INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
+    "(1, 1, 0, 1, 200), (1, 3, 0, 1, 500), (2, 3, 0, 1, 129.99), (3, 3, 0, 1, 150);"
+    "INSERT INTO Factura (FacturaID, NumeroFactura, Fecha, ClienteID, Descuento, Efectivo, Vuelto, "
+    "Estado) VALUES (1, 7, '2026-02-20', 1, 0, 200, 70, 0);"
+    "INSERT INTO FacturaDetalle (FacturaID, ArticuloID, Cantidad, EsCredito, Precio) VALUES "
+    "(1, 2, 1, 0, 130);";
 
-frmFactura& FacturaEnPantalla::pantalla() {
-    auto& p = Common::Pantalla<frmFactura>();
-    if (p.isVisible()) return p;
-    auto& abierta = programa_->abrir<frmFactura>(QStringLiteral("Facturas"));
-    activar(abierta);
-    return abierta;
-}
+} // namespace
 
-void FacturaEnPantalla::pulsar(const QString& caption) {
-    auto& p = pantalla();
-    activar(p);
-    pulsarBoton(p.cmdBoton, caption);
-    if (!p.descargado() && p.isVisible()) activar(p); // back from whatever it opened
-}
-
-void FacturaEnPantalla::activar(QWidget& ventana) {
-    ventana.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana))
-        qWarning("%s did not become active", qPrintable(ventana.objectName()));
-}
-
-void FacturaEnPantalla::escribir(QWidget* caja, const QString& texto) {
-    activar(*caja->window());
-    caja->setFocus();
-    if (auto* linea = qobject_cast<QLineEdit*>(caja)) linea->selectAll();
-    if (texto.isEmpty())
-        QTest::keyClick(caja, Qt::Key_Delete);
-    else
-        teclear(caja, texto);
-    QTest::keyClick(caja, Qt::Key_Tab);
-}
-
-void FacturaEnPantalla::elegir(const QString& celda, QStringList* vistos, const QString& columna) {
-    entorno_->alMostrarModal([celda, vistos, columna](shell::Formulario& busca) {
-        auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
-        if (busca.objectName() != QLatin1String("frmBusca") || !rejilla) {
-            busca.Unload();
-            QFAIL(qPrintable("the search screen was awaited, not " + busca.objectName()));
-        }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
-        const QAbstractItemModel* m = rejilla->model();
-        if (vistos)
-            for (int c = 0; c < m->columnCount(); ++c)
-                if (m->headerData(c, Qt::Horizontal).toString() == columna)
-                    for (int f = 0; f < m->rowCount(); ++f)
-                        *vistos << m->index(f, c).data().toString();
-        if (!celda.isEmpty())
-            for (int f = 0; f < m->rowCount(); ++f)
-                for (int c = 0; c < m->columnCount(); ++c)
-                    if (m->index(f, c).data().toString() == celda) {
-                        QTest::mouseDClick(rejilla->viewport(), Qt::LeftButton, {},
-                                           rejilla->visualRect(m->index(f, c)).center());
-                        return;
-                    }
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdClose")), Qt::LeftButton);
-    });
+FacturaEnPantalla::FacturaEnPantalla()
+    : EnPantalla(kHoyFactura, QStringLiteral("Facturas"), kFilas) {
 }
 
 void FacturaEnPantalla::elegirDeLista(const QString& descripcion) {
-    entorno_->alMostrarModal([descripcion](shell::Formulario& lista) {
+    entorno().alMostrarModal([descripcion](shell::Formulario& lista) {
         auto* rejilla = lista.findChild<QTableView*>(QStringLiteral("DataGrid"));
         if (lista.objectName() != QLatin1String("frmListado") || !rejilla) {
             lista.Unload();
@@ -122,7 +57,7 @@ void FacturaEnPantalla::elegirDeLista(const QString& descripcion) {
 }
 
 void FacturaEnPantalla::responderLinea(const QString& cantidad, const QString& precio, bool aceptar) {
-    entorno_->alMostrarModal([=, this](shell::Formulario& d) {
+    entorno().alMostrarModal([=, this](shell::Formulario& d) {
         auto* dialogo = qobject_cast<credito::frmSolicitudArticulo*>(&d);
         if (!dialogo) {
             d.Unload();
@@ -135,44 +70,14 @@ void FacturaEnPantalla::responderLinea(const QString& cantidad, const QString& p
     });
 }
 
-void FacturaEnPantalla::responder(const QString& boton, QString* texto) {
-    entorno_->alMostrarModal([boton, texto](shell::Formulario& d) {
-        if (texto)
-            for (const char* nombre : {"lblPregunta", "lblMensaje"})
-                if (auto* l = d.findChild<QLabel*>(QLatin1String(nombre))) *texto = l->text();
-        for (QPushButton* b : d.findChildren<QPushButton*>())
-            if (b->text() == boton || b->objectName() == boton) return QTest::mouseClick(b, Qt::LeftButton);
-        QFAIL(qPrintable("the dialog has no button " + boton));
-    });
-}
-
 void FacturaEnPantalla::tecla(Qt::Key k, int fila, Qt::KeyboardModifiers modificadores) {
     auto& p = pantalla();
-    activar(p);
-    p.fgDetalle->setFocus();
-    p.fgDetalle->setRow(fila);
-    QTest::keyClick(p.fgDetalle, k, modificadores);
-    activar(p);
+    teclaEnGrilla(p, *p.fgDetalle, k, fila, modificadores);
 }
 
 void FacturaEnPantalla::dobleClic(int fila) {
     auto& p = pantalla();
-    activar(p);
-    QTest::mouseDClick(p.fgDetalle->viewport(), Qt::LeftButton, {},
-                       p.fgDetalle->visualItemRect(p.fgDetalle->item(fila - 1, 4)).center());
-    activar(p);
-}
-
-QStringList FacturaEnPantalla::filas() {
-    auto& p = pantalla();
-    QStringList r;
-    for (int f = 1; f < p.fgDetalle->Rows(); ++f) {
-        QStringList celdas;
-        for (int c = 0; c < p.fgDetalle->Cols(); ++c)
-            celdas << p.fgDetalle->TextMatrix(f, c);
-        r << celdas.join(u'|');
-    }
-    return r;
+    dobleClicEnGrilla(p, *p.fgDetalle, fila);
 }
 
 void FacturaEnPantalla::facturarSolicitud(const QString& numero) {

@@ -3,17 +3,14 @@
 // What the invoice's test programs share: the store's rows before each test, the screen opened from
 // "Facturas" as the clerk opens it, and the clerk's gestures on it (the bar, typing and leaving a field,
 // the searches and the pick list answered, the line dialog answered, keys and double clicks on the
-// grid, the dialogs answered by their buttons).
-#include "BaseDePrueba.h"
-#include "EntornoDePantallas.h"
-#include "ProgramaDePrueba.h"
+// grid, the dialogs answered by their buttons), made of the shared gestures of Gestos.h, on the frame
+// of EnPantalla.h.
+#include "EnPantalla.h"
 #include "cash/frmFactura.h"
-#include "runtime/Fechas.h"
 
 #include <QDate>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // Today, unless a test moves the clock.
 inline const QDate kHoyFactura(2026, 3, 10);
@@ -29,44 +26,44 @@ inline const QDate kHoyFactura(2026, 3, 10);
 //                52 (key 3): pending, ANA LUCÍA; 1 refrigerator for 500, nothing paid
 //                53 (key 4): paid off (state 2), LUISA; 1 stove for 130, paid 150: balance -20.00
 //   invoices     7 (key 1) of 20/02/2026 to ANA LUCÍA: 1 stove at 130.00, cash 200.00, change 70.00
-class FacturaEnPantalla {
+class FacturaEnPantalla : public EnPantalla<caja::frmFactura> {
 public:
-    // The clock stopped on kHoyFactura; a test moves it with runtime::FijarReloj.
+    // The clock stopped on kHoyFactura; the screen opened from "Facturas".
     FacturaEnPantalla();
-    ~FacturaEnPantalla();
 
-    BaseDePrueba& base() { return *base_; }
-    EntornoDePantallas& entorno() { return *entorno_; }
-    QString db(const QString& consulta) const { return base_->valor(consulta); }
+    // A button of the bar, the screen made active before it as well.
+    void pulsar(const QString& caption) {
+        activar(pantalla());
+        EnPantalla::pulsar(caption);
+    }
 
-    // "Facturas" in the menu the first time; the screen standing open afterwards.
-    caja::frmFactura& pantalla();
-    void pulsar(const QString& caption);
+    // Into a box as the clerk does (escribir), its window, the screen's or a dialog's, made active
+    // first.
+    static void escribir(QWidget* caja, const QString& texto) {
+        activar(*caja->window());
+        ::escribir(caja, texto);
+    }
 
-    // The window takes the keyboard, as the one in front does.
-    static void activar(QWidget& ventana);
-    // Into a box as the clerk does: focus, what it held selected and typed over, Tab to leave it.
-    void escribir(QWidget* caja, const QString& texto);
-
-    // The next search screen answered: "&Buscar" with no filter, then a double click on the first row
-    // with a cell that reads `celda`; the close box when none does (or `celda` is empty). The texts of
-    // the column headed `columna`, row by row, go to `vistos` when asked for.
+    // The next search screen answered by a row with this cell (elegirEnBusqueda); the texts of the
+    // column headed `columna` go to `vistos` when asked for.
     void elegir(const QString& celda, QStringList* vistos = nullptr,
-                const QString& columna = QStringLiteral("Solicitud"));
+                const QString& columna = QStringLiteral("Solicitud")) {
+        elegirEnBusqueda(entorno(), celda, vistos, columna);
+    }
     // The next pick list answered by a double click on the row of this description (none: closed).
     void elegirDeLista(const QString& descripcion);
     // The next line dialog answered: the quantity and the price typed where given, then "&Aceptar"
     // (or, with `aceptar` false, the close box).
     void responderLinea(const QString& cantidad, const QString& precio, bool aceptar = true);
     // The next dialog answered by a button of this caption (or "cmdClose"); its text kept in `texto`.
-    void responder(const QString& boton, QString* texto = nullptr);
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(entorno(), boton, texto); }
 
     // A key on the grid, on its row `fila`, with its modifiers.
     void tecla(Qt::Key k, int fila = 1, Qt::KeyboardModifiers modificadores = Qt::NoModifier);
     // A double click on the cells of row `fila`.
     void dobleClic(int fila);
     // The grid's data rows, cells joined by "|".
-    QStringList filas();
+    QStringList filas() { return filasDe(*pantalla().fgDetalle); }
 
     // "Agregar", then application `numero` typed in and the field left.
     void facturarSolicitud(const QString& numero);
@@ -74,10 +71,4 @@ public:
     void agregarArticulo(const QString& articulo, const QString& cantidad, const QString& precio);
     // Shift+Insert: the concept of this description from the list, then its dialog.
     void agregarConcepto(const QString& concepto, const QString& cantidad, const QString& precio);
-
-private:
-    std::unique_ptr<runtime::RelojFijo> reloj_;
-    std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
-    std::unique_ptr<ProgramaDePrueba> programa_;
 };

@@ -9,40 +9,36 @@
 
 using caja::frmRecibo;
 
-ReciboEnPantalla::ReciboEnPantalla() {
-    reloj_ = std::make_unique<runtime::RelojFijo>(QDateTime(kHoy, QTime(9, 30)));
-    base_ = std::make_unique<BaseDePrueba>(true);
-    base_->sqlite(
-        "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, NIT, CodigoLetra, CodigoNumero, Limite) VALUES "
-        "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1234567-8', 'G', 1, 5000), (2, 'PEDRO', 'RAMÍREZ', 'C/F', 'R', 1, 0);"
-        "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
-        "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0);"
-        "INSERT INTO Banco (BancoID, Nombre, Direccion) VALUES (1, 'Banrural', 'Zona 9'), "
-        "(2, 'Banco Industrial', 'Zona 4');"
-        "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, MesesCredito, DiaPago, "
-        "Enganche, PrimerPago, Estado, Mora) VALUES "
-        "(1, 41, '2026-02-15', 1, 10, 5, 100, 200, 1, 10),"
-        "(2, 40, '2026-02-01', 2, 12, 15, 100, 0, 0, 0),"
-        "(3, 42, '2026-01-10', 2, 0, 5, 0, 0, 1, 0),"
-        "(4, 43, '2026-01-20', 2, 0, 5, 0, 0, 1, 0),"
-        "(5, 44, '2025-12-01', 1, 6, 5, 50, 0, 3, 0);"
-        "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
-        "(1, 1, 1, 1300), (2, 1, 1, 390), (4, 1, 1, 500), (5, 1, 1, 600);"
-        "INSERT INTO Recibo (ReciboID, NumeroRecibo, Fecha, SolicitudID, ClienteID, Nombre, BancoID, "
-        "ChequeNumero, ChequeValor, Efectivo, Vuelto) VALUES "
-        "(1, 7, '2026-03-01', 0, 0, 'JUAN PÉREZ', 0, NULL, 0, 25, 0),"
-        "(2, 8, '2026-03-02', 0, 2, NULL, 1, 'CH-1', 500, 0, 0);"
-        "INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
-        "(1, 7, 0, 1, 25), (2, 0, 1, 1, 500);");
-    entorno_ = std::make_unique<EntornoDePantallas>();
-    programa_ = std::make_unique<ProgramaDePrueba>();
-}
+namespace {
 
-ReciboEnPantalla::~ReciboEnPantalla() {
-    entorno_.reset();
-    programa_.reset();
-    base_.reset();
-    reloj_.reset();
+// The rows every test starts from, as ReciboEnPantalla.h tells them.
+constexpr char kFilas[] =
+    "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, NIT, CodigoLetra, CodigoNumero, Limite) VALUES "
+    "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1234567-8', 'G', 1, 5000), (2, 'PEDRO', 'RAMÍREZ', 'C/F', 'R', 1, 0);"
+    "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
+    "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0);"
+    "INSERT INTO Banco (BancoID, Nombre, Direccion) VALUES (1, 'Banrural', 'Zona 9'), "
+    "(2, 'Banco Industrial', 'Zona 4');"
+    "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, MesesCredito, DiaPago, "
+    "Enganche, PrimerPago, Estado, Mora) VALUES "
+    "(1, 41, '2026-02-15', 1, 10, 5, 100, 200, 1, 10),"
+    "(2, 40, '2026-02-01', 2, 12, 15, 100, 0, 0, 0),"
+    "(3, 42, '2026-01-10', 2, 0, 5, 0, 0, 1, 0),"
+    "(4, 43, '2026-01-20', 2, 0, 5, 0, 0, 1, 0),"
+    "(5, 44, '2025-12-01', 1, 6, 5, 50, 0, 3, 0);"
+    "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
+    "(1, 1, 1, 1300), (2, 1, 1, 390), (4, 1, 1, 500), (5, 1, 1, 600);"
+    "INSERT INTO Recibo (ReciboID, NumeroRecibo, Fecha, SolicitudID, ClienteID, Nombre, BancoID, "
+    "ChequeNumero, ChequeValor, Efectivo, Vuelto) VALUES "
+    "(1, 7, '2026-03-01', 0, 0, 'JUAN PÉREZ', 0, NULL, 0, 25, 0),"
+    "(2, 8, '2026-03-02', 0, 2, NULL, 1, 'CH-1', 500, 0, 0);"
+    "INSERT INTO ReciboDetalle (ReciboID, ConceptoID, ArticuloID, Cantidad, Valor) VALUES "
+    "(1, 7, 0, 1, 25), (2, 0, 1, 1, 500);";
+
+} // namespace
+
+ReciboEnPantalla::ReciboEnPantalla()
+    : EnPantalla(kHoy, QStringLiteral("Recibos"), kFilas) {
 }
 
 QString ReciboEnPantalla::enLaConexion(const QString& consulta) {
@@ -51,22 +47,8 @@ QString ReciboEnPantalla::enLaConexion(const QString& consulta) {
     return rs.Eof() ? QString() : runtime::TextoDe(rs.Fields(0).Value());
 }
 
-frmRecibo& ReciboEnPantalla::pantalla() {
-    auto& p = Common::Pantalla<frmRecibo>();
-    if (p.isVisible()) return p;
-    auto& abierta = programa_->abrir<frmRecibo>(QStringLiteral("Recibos"));
-    activar(abierta);
-    return abierta;
-}
-
-void ReciboEnPantalla::pulsar(const QString& caption) {
-    auto& p = pantalla();
-    pulsarBoton(p.cmdBoton, caption);
-    if (!p.descargado() && p.isVisible()) activar(p); // back from whatever it opened
-}
-
 void ReciboEnPantalla::buscarRecibo(const QString& numero) {
-    elegirEnBusqueda(*entorno_, numero);
+    elegirEnBusqueda(entorno(), numero);
     pulsar(QStringLiteral("Buscar"));
 }
 
@@ -76,7 +58,7 @@ void ReciboEnPantalla::nuevoPara(const QString& solicitud) {
 }
 
 void ReciboEnPantalla::elegirConcepto(const QString& descripcion) {
-    entorno_->alMostrarModal([this, descripcion](shell::Formulario& f) {
+    entorno().alMostrarModal([this, descripcion](shell::Formulario& f) {
         auto* lista = qobject_cast<shell::frmListado*>(&f);
         QVERIFY2(lista, qPrintable(f.objectName() + " is not the pick list"));
         const QAbstractItemModel* m = lista->DataGrid->model();
@@ -94,7 +76,7 @@ void ReciboEnPantalla::elegirConcepto(const QString& descripcion) {
 }
 
 void ReciboEnPantalla::responderLinea(const QString& valor, const QString& cierre, const QString& cantidad) {
-    entorno_->alMostrarModal([=, this](shell::Formulario& d) {
+    entorno().alMostrarModal([=, this](shell::Formulario& d) {
         auto* linea = qobject_cast<credito::frmSolicitudArticulo*>(&d);
         QVERIFY2(linea, qPrintable(d.objectName() + " is not the line dialog"));
         activar(*linea);

@@ -3,18 +3,13 @@
 // What the receipt's test programs share: the store's rows before each test, the screen opened from
 // "Recibos" as the clerk opens it, and the clerk's gestures on it (the bar, a receipt found, a new
 // receipt for an application, a concept picked from the pick list by Insert, the line dialog, the
-// cash typed), made of the shared gestures of Gestos.h.
-#include "BaseDePrueba.h"
-#include "EntornoDePantallas.h"
-#include "Gestos.h"
-#include "ProgramaDePrueba.h"
+// cash typed), made of the shared gestures of Gestos.h, on the frame of EnPantalla.h.
+#include "EnPantalla.h"
 #include "cash/frmRecibo.h"
-#include "runtime/Fechas.h"
 
 #include <QDate>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // Today, for every test.
 inline const QDate kHoy(2026, 3, 10);
@@ -35,22 +30,14 @@ inline const QString kTitulo = QStringLiteral("Recibos");
 //                44 (key 5): rejected, ANA LUCÍA
 //   receipts     7 (key 1): for the plain name JUAN PÉREZ, one line of Flete 25.00 in cash, no bank
 //                8 (key 2): for the client PEDRO, the refrigerator at 500.00 by a cheque of Banrural
-class ReciboEnPantalla {
+class ReciboEnPantalla : public EnPantalla<caja::frmRecibo> {
 public:
+    // The clock stopped on kHoy; the screen opened from "Recibos".
     ReciboEnPantalla();
-    ~ReciboEnPantalla();
 
-    BaseDePrueba& base() { return *base_; }
-    EntornoDePantallas& entorno() { return *entorno_; }
-    ProgramaDePrueba& programa() { return *programa_; }
-    // One value read straight from the database file, as another workstation sees it.
-    QString db(const QString& consulta) const { return base_->valor(consulta); }
     // One value read on the program's shared connection, what the open transaction wrote included.
     static QString enLaConexion(const QString& consulta);
 
-    // "Recibos" in the menu the first time; the screen standing open afterwards.
-    caja::frmRecibo& pantalla();
-    void pulsar(const QString& caption);
     // "Buscar", picking the receipt of this number.
     void buscarRecibo(const QString& numero);
     // "Agregar", then the application of this number typed in "No. Solicitud:" and left.
@@ -78,10 +65,4 @@ public:
     QString saldos();
     // The cash typed and left, which works "Total recibido:" out.
     void efectivo(const QString& monto);
-
-private:
-    std::unique_ptr<runtime::RelojFijo> reloj_;
-    std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
-    std::unique_ptr<ProgramaDePrueba> programa_;
 };

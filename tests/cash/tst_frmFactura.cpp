@@ -4,6 +4,7 @@
 // "Guardar", a second invoice of one application, "Imprimir", the date a modified invoice takes, and
 // the buttons that do nothing.
 #include "FacturaEnPantalla.h"
+#include "ModosDeRegistro.h"
 #include "runtime/Conversion.h"
 #include "store/Recordset.h"
 
@@ -63,10 +64,6 @@ private:
     frmFactura& pantalla() { return f_->pantalla(); }
     void pulsar(const QString& caption) { f_->pulsar(caption); }
     QString db(const QString& consulta) const { return f_->db(consulta); }
-    // Browsing again, with no transaction open.
-    void verificarConsulta();
-    // Still editing, with the transaction open.
-    void verificarEdicion();
     std::unique_ptr<FacturaEnPantalla> f_;
 };
 
@@ -76,25 +73,6 @@ void TstFrmFactura::init() {
 
 void TstFrmFactura::cleanup() {
     f_.reset();
-}
-
-void TstFrmFactura::verificarConsulta() {
-    auto& p = pantalla();
-    QVERIFY(!p.lblEstado->isVisible());
-    QVERIFY(p.cmdBoton[0]->isVisible());
-    QVERIFY(!p.cmdBoton[5]->isVisible());
-    QVERIFY(!p.fraMain->isEnabled());
-    QCOMPARE(Common::TransaccionActiva, 0L);
-    QCOMPARE(Common::DE().CN.nivelTransaccion(), 0);
-}
-
-void TstFrmFactura::verificarEdicion() {
-    auto& p = pantalla();
-    QVERIFY(p.lblEstado->isVisible());
-    QVERIFY(p.cmdBoton[5]->isVisible());
-    QVERIFY(!p.cmdBoton[0]->isVisible());
-    QVERIFY(p.fraMain->isEnabled());
-    QVERIFY(Common::TransaccionActiva > 0);
 }
 
 // Application 50, paid off, brings its client, NIT, discount and two lines of credit, which refuse
@@ -135,7 +113,7 @@ void TstFrmFactura::facturaDeUnaSolicitudCancelada() {
     f_->escribir(p.panBanco->txtEfectivo, QStringLiteral("900"));
     QCOMPARE(p.panBanco->lblVuelto->text(), QStringLiteral("35.00"));
     pulsar(QStringLiteral("Guardar"));
-    verificarConsulta();
+    verificarConsulta(pantalla());
     QCOMPARE(factura(*f_, 8), QStringLiteral("1|0|null|null"));
     QCOMPARE(db("SELECT Fecha || '|' || Descuento || '|' || Efectivo || '|' || Vuelto || '|' || BancoID FROM "
                 "Factura WHERE NumeroFactura = 8"),
@@ -209,7 +187,7 @@ void TstFrmFactura::f2OfreceSoloLasCanceladas() {
     QCOMPARE(p.txtNIT->text(), QStringLiteral("C/F"));
     QCOMPARE(p.SolicitudID, 0L);
     QCOMPARE(f_->filas(), QStringList{"||||||"});
-    f_->activar(p);
+    activar(p);
     QTest::keyClick(p.txtNumeroSolicitud, Qt::Key_Tab);
     QCOMPARE(p.SolicitudID, 4L);
     QCOMPARE(f_->filas(), QStringList{"2|0|1|1|ESTUFA E4 GRIS|130.00|130.00"});
@@ -277,7 +255,7 @@ void TstFrmFactura::nitDeCadaForma() {
             QTest::mouseClick(p.cmdCliente, Qt::LeftButton);
             QCOMPARE(p.txtNombreCliente->text(), QStringLiteral("PEDRO RAMÍREZ"));
         } else {
-            f_->activar(p);
+            activar(p);
             QTest::mouseDClick(p.txtNombreCliente, Qt::LeftButton);
             f_->escribir(p.txtNombreCliente, QStringLiteral("juan soto"));
         }
@@ -298,10 +276,10 @@ void TstFrmFactura::nitDeCadaForma() {
     }
     QCOMPARE(factura(*f_, 8), fila);
     if (fila.isEmpty()) {
-        verificarEdicion();
+        verificarEdicion(pantalla());
         QCOMPARE(p.txtNIT->text(), QString());
     } else {
-        verificarConsulta();
+        verificarConsulta(pantalla());
     }
     QCOMPARE(db("SELECT NIT FROM Cliente WHERE ClienteID = 2"), cliente);
     QCOMPARE(db("SELECT NIT FROM Cliente WHERE ClienteID = 1"), QStringLiteral("1234567-8"));
@@ -322,9 +300,9 @@ void TstFrmFactura::nitQueElClienteNoGuarda() {
     pulsar(QStringLiteral("Guardar"));
     QVERIFY(!mensaje.isEmpty());
     QCOMPARE(f_->entorno().titulosModales.last(), kTitulo);
-    verificarEdicion();
+    verificarEdicion(pantalla());
     pulsar(QStringLiteral("Cancelar"));
-    verificarConsulta();
+    verificarConsulta(pantalla());
     QCOMPARE(db("SELECT count(*) FROM Factura"), QStringLiteral("1"));
     QCOMPARE(db("SELECT NIT FROM Cliente WHERE ClienteID = 2"), QString());
     QCOMPARE(f_->filas().size(), 1); // the grid keeps what it showed
@@ -422,7 +400,7 @@ void TstFrmFactura::guardarRehusado() {
     pulsar(QStringLiteral("Guardar"));
     QCOMPARE(dicho, mensaje);
     QCOMPARE(f_->entorno().titulosModales.last(), titulo);
-    verificarEdicion();
+    verificarEdicion(pantalla());
     QCOMPARE(db("SELECT count(*) FROM Factura"), QStringLiteral("1"));
 }
 
@@ -435,7 +413,7 @@ void TstFrmFactura::dosFacturasDeUnaSolicitud() {
         QCOMPARE(p.txtNumeroFactura->text(), QString::number(numero));
         f_->escribir(p.panBanco->txtEfectivo, QStringLiteral("700"));
         pulsar(QStringLiteral("Guardar"));
-        verificarConsulta();
+        verificarConsulta(pantalla());
         QCOMPARE(factura(*f_, numero), QStringLiteral("1|0|null|null"));
         QCOMPARE(lineas(*f_, numero), QStringLiteral("1|0|1|1|500.00;2|0|2|1|130.00"));
     }
@@ -461,7 +439,7 @@ void TstFrmFactura::imprimirMarcaLaFactura() {
         QCOMPARE(db(fila), QStringLiteral("7|2026-02-20|1|200.0|70.0|1"));
     }
     QCOMPARE(f_->entorno().modalesMostradas.size(), modales);
-    verificarConsulta();
+    verificarConsulta(pantalla());
     QCOMPARE(f_->filas(), antes);
     QCOMPARE(p.txtNombreCliente->text(), QStringLiteral("ANA LUCÍA GONZÁLEZ"));
     QCOMPARE(p.lblTotal->text(), QStringLiteral("130.00"));
@@ -493,15 +471,14 @@ void TstFrmFactura::fechaAlModificar() {
     pulsar(QStringLiteral("Buscar"));
     QCOMPARE(p.dpFecha->Value(), kHoyFactura);
     pulsar(QStringLiteral("Modificar"));
-    verificarEdicion();
-    QCOMPARE(p.lblEstado->text(), QStringLiteral("Modificar registro actual"));
+    verificarEdicion(p, QStringLiteral("Modificar registro actual"));
     QCOMPARE(p.txtNumeroFactura->Tag(), QStringLiteral("7"));
     p.dpFecha->setFocus();
     p.dpFecha->setCurrentSection(QDateTimeEdit::DaySection);
     for (int d = 0; d < dias; ++d)
         QTest::keyClick(p.dpFecha, Qt::Key_Up);
     pulsar(QStringLiteral("Guardar"));
-    verificarConsulta();
+    verificarConsulta(pantalla());
     QCOMPARE(db("SELECT Fecha FROM Factura WHERE FacturaID = 1"), guardada);
     QCOMPARE(lineas(*f_, 7), QStringLiteral("2|0|1|0|130.00"));
     QCOMPARE(db("SELECT count(*) FROM Factura"), QStringLiteral("1"));
@@ -512,12 +489,12 @@ void TstFrmFactura::fechaAlModificar() {
 void TstFrmFactura::botonesQueNoHacenNada() {
     auto& p = pantalla();
     pulsar(QStringLiteral("Modificar"));
-    verificarConsulta();
+    verificarConsulta(pantalla());
     pulsar(QStringLiteral("Eliminar"));
     f_->elegir(QStringLiteral("7"), nullptr);
     pulsar(QStringLiteral("Buscar"));
     pulsar(QStringLiteral("Eliminar"));
-    verificarConsulta();
+    verificarConsulta(pantalla());
     QCOMPARE(p.txtNumeroFactura->text(), QStringLiteral("7"));
     QCOMPARE(db("SELECT count(*) || '|' || (SELECT count(*) FROM FacturaDetalle) FROM Factura"),
              QStringLiteral("1|1"));

@@ -158,7 +158,7 @@ void TstFrmFacturaLineas::descuentoYVuelto() {
     f_->agregarConcepto(QStringLiteral("Instalación"), QStringLiteral("1"), QStringLiteral("100"));
     QCOMPARE(p.lblSubTotal->text(), QStringLiteral("100.00"));
     QCOMPARE(p.lblTotal->text(), QStringLiteral("100.00"));
-    f_->activar(p);
+    activar(p);
     QTest::mouseClick(p.txtDescuento, Qt::LeftButton);
     f_->escribir(p.txtDescuento, QStringLiteral("10"));
     QCOMPARE(p.txtDescuento->text(), QStringLiteral("10.00"));
@@ -185,7 +185,7 @@ void TstFrmFacturaLineas::descuentoCerradoHastaElFoco() {
     p.txtNIT->setFocus();
     QTest::keyClick(p.txtNIT, Qt::Key_Tab);
     QVERIFY(!p.txtDescuento->hasFocus());
-    f_->activar(p);
+    activar(p);
     QTest::mouseClick(p.txtDescuento, Qt::LeftButton);
     QVERIFY(p.txtDescuento->hasFocus());
     QVERIFY(!p.txtDescuento->Locked());
@@ -249,7 +249,7 @@ void TstFrmFacturaLineas::ultimaLineaBorrada() {
     auto& p = pantalla();
     ventaAlCliente();
     f_->agregarConcepto(QStringLiteral("Flete"), QStringLiteral("1"), QStringLiteral("100"));
-    f_->activar(p);
+    activar(p);
     QTest::mouseClick(p.txtDescuento, Qt::LeftButton);
     f_->escribir(p.txtDescuento, QStringLiteral("10"));
     f_->tecla(Qt::Key_Delete, 1);

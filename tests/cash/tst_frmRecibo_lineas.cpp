@@ -2,6 +2,7 @@
 // proposes by its Tipo or refuses, a concept taken twice, the concepts offered to each kind of
 // receipt, the mora added to the application inside the receipt's transaction, article lines by
 // Shift+Insert, and a line edited by double click while browsing.
+#include "ModosDeRegistro.h"
 #include "ReciboEnPantalla.h"
 
 #include <QtTest>
@@ -319,8 +320,7 @@ void TstFrmReciboLineas::moraSoloAlGuardar() {
     QCOMPARE(moraEnLaBase(1), QStringLiteral("10.00"));
     r_->efectivo(QStringLiteral("60"));
     pulsar(boton);
-    QCOMPARE(Common::TransaccionActiva, 0L);
-    QVERIFY(!p.lblEstado->isVisible());
+    verificarConsulta(p);
     QCOMPARE(moraEnLaBase(1), mora);
     QCOMPARE(db("SELECT printf('%.2f', Mora) FROM vwSaldosXSolicitud WHERE SolicitudID = 1"), pendiente);
 }
@@ -378,7 +378,7 @@ void TstFrmReciboLineas::lineaDeArticulo() {
 
     r_->efectivo(p.lblTotal->text());
     pulsar("Guardar");
-    QVERIFY(!p.lblEstado->isVisible());
+    verificarConsulta(p);
     QCOMPARE(db("SELECT printf('%d|%d|%d|%.2f', ConceptoID, ArticuloID, Cantidad, Valor) FROM ReciboDetalle "
                 "WHERE ReciboID = (SELECT ReciboID FROM Recibo WHERE NumeroRecibo = 9)"),
              guardado);
@@ -412,7 +412,7 @@ void TstFrmReciboLineas::borrarLaUltimaLinea() {
     responder(r_->entorno(), QStringLiteral("cmdClose"), &texto);
     pulsar("Guardar");
     QCOMPARE(texto, QStringLiteral("Debe especificar que desea pagar en este recibo."));
-    QVERIFY(p.lblEstado->isVisible());
+    verificarEdicion(p);
 }
 
 void TstFrmReciboLineas::editarLineaAlConsultar_data() {
@@ -450,8 +450,7 @@ void TstFrmReciboLineas::editarLineaAlConsultar() {
     QCOMPARE(r_->cantidadHabilitada, titulo == QStringLiteral("Artículos"));
     QCOMPARE(r_->lineas(), QStringList{linea});
     QCOMPARE(p.lblTotal->text(), linea.section(u'|', 5));
-    QVERIFY(!p.lblEstado->isVisible());
-    QCOMPARE(Common::TransaccionActiva, 0L);
+    verificarConsulta(p);
     QCOMPARE(
         db("SELECT printf('%.2f', Valor) FROM ReciboDetalle WHERE ReciboID = (SELECT ReciboID FROM Recibo "
            "WHERE NumeroRecibo = " +

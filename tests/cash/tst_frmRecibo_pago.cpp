@@ -1,6 +1,7 @@
 // How a receipt is paid, on its tender panel: cash, a cheque of a bank or both, "Total recibido:" and
 // "Vuelto:" worked out as the fields are left, the three refusals at "Guardar", what the row stores,
 // the bank a found receipt shows, and the "Total recibido:" a new receipt inherits.
+#include "ModosDeRegistro.h"
 #include "ReciboEnPantalla.h"
 
 #include <QtTest>
@@ -162,12 +163,10 @@ void TstFrmReciboPago::pago() {
     QCOMPARE(texto, mensaje);
     if (!mensaje.isEmpty()) {
         QCOMPARE(r_->entorno().titulosModales.last(), kTitulo);
-        QVERIFY(p.lblEstado->isVisible());
-        QVERIFY(Common::TransaccionActiva > 0);
+        verificarEdicion(p);
         QCOMPARE(db("SELECT count(*) FROM Recibo"), QStringLiteral("2"));
     } else {
-        QVERIFY(!p.lblEstado->isVisible());
-        QCOMPARE(Common::TransaccionActiva, 0L);
+        verificarConsulta(p);
         QCOMPARE(db(kPagoGuardado + "9"), guardado);
     }
 }
@@ -192,7 +191,7 @@ void TstFrmReciboPago::totalRecibidoDelReciboAnterior() {
     r_->insertarConcepto(QStringLiteral("Cuota mensual"));
     QCOMPARE(p.lblTotal->text(), QStringLiteral("100.00"));
     pulsar("Guardar");
-    QVERIFY(!p.lblEstado->isVisible());
+    verificarConsulta(p);
     QCOMPARE(db(kPagoGuardado + "10"), QStringLiteral("0||0.00|0.00|-100.00"));
 }
 

@@ -2,6 +2,7 @@
 // finding through the pick list, changing, deleting, and what happens when the database refuses.
 #include "BaseDePrueba.h"
 #include "EntornoDePantallas.h"
+#include "ModosDeRegistro.h"
 #include "ProgramaDePrueba.h"
 #include "catalogs/frmBanco.h"
 #include "shell/busqueda/RejillaDeDatos.h"
@@ -80,8 +81,7 @@ void TstFrmBanco::agregarGuardaLoEscrito() {
     pulsar("Guardar");
     QCOMPARE(db("SELECT Direccion FROM Banco WHERE Nombre = 'Banco Muñoz'"),
              QStringLiteral("6a. avenida, zona 1"));
-    QVERIFY(p.cmdBoton[0]->isVisible());
-    QVERIFY(!p.lblEstado->isVisible());
+    verificarConsulta(p);
     QVERIFY(entorno_->fallos.isEmpty());
 }
 

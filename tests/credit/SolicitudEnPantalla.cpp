@@ -6,59 +6,41 @@
 
 using credito::frmSolicitud;
 
-SolicitudEnPantalla::SolicitudEnPantalla() {
-    reloj_ = std::make_unique<runtime::RelojFijo>(QDateTime(kHoy, QTime(9, 30)));
-    base_ = std::make_unique<BaseDePrueba>(true);
-    base_->sqlite(
-        "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, FechaNacimiento, NIT, CedulaRegistro, "
-        "CedulaNumero, CedulaExtendida, CodigoLetra, CodigoNumero, Limite) VALUES "
-        "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1980-05-17', '1234567-8', ' A-1 ', '45678', 'Capital', 'G', 1, 5000),"
-        "(2, 'PEDRO', 'RAMÍREZ', '1975-02-03', 'C/F', 'A-1', '11111', 'Capital', 'R', 1, 0),"
-        "(3, 'LUISA', 'MÉNDEZ', '1990-07-08', 'C/F', 'B-2', '22222', 'Escuintla', 'M', 1, NULL);"
-        "INSERT INTO Fiador (FiadorID, Nombres, Apellidos, FechaNacimiento, CedulaRegistro, CedulaNumero, "
-        "CedulaExtendida, EstadoCivilID, Direccion, Telefonos, CasaPropia, CasaAlquilada, CasaTiempo, "
-        "TrabajoNombre, TrabajoPuesto, TrabajoTiempo, TrabajoSueldo) VALUES "
-        "(1, 'MARIO', 'LÓPEZ', '1970-05-14', 'A-1', '123456', 'Capital', 2, ' 5a calle 3-20 ', '2233-4455', "
-        "1, 1, 14, 'Almacén El Sol', 'Bodeguero', 30, 3500),"
-        "(2, 'ROSA', 'PÉREZ', NULL, 'C-3', '98765', 'Chimaltenango', 1, 'Zona 7', '7788-9900', 0, 1, 5, "
-        "NULL, NULL, 0, 2800),"
-        "(3, 'JUAN', 'SOTO', '1985-01-01', 'A-1', '55555', 'Capital', 3, 'Mixco', '', 0, 0, 0, NULL, NULL, "
-        "11, 1800.5);"
-        "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
-        "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0), (2, 'ESTUFA', 'E4', 'GRIS', 100, 0, 30), "
-        "(3, 'TELEVISOR', 'TV50', 'NEGRO', 800, 10, 0);"
-        "INSERT INTO NotaIngreso (IngresoID, NumeroIngreso, Fecha) VALUES (1, 1, '2026-01-05');"
-        "INSERT INTO NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES "
-        "(1, 1, 20, 400), (1, 2, 20, 100), (1, 3, 1, 800);"
-        "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, FiadorID, FiadorParentesco, "
-        "MesesCredito, DiaPago, Enganche, Estado) VALUES "
-        "(1, 40, '2026-02-01', 1, 1, 'HERMANO', 12, 15, 100, 0),"
-        "(2, 41, '2026-02-15', 1, 2, 'PRIMA', 10, 5, 0, 1);"
-        "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
-        "(1, 2, 3, 390), (2, 1, 1, 500);");
-    entorno_ = std::make_unique<EntornoDePantallas>();
-    programa_ = std::make_unique<ProgramaDePrueba>();
-}
+namespace {
 
-SolicitudEnPantalla::~SolicitudEnPantalla() {
-    entorno_.reset();
-    programa_.reset();
-    base_.reset();
-    reloj_.reset();
-}
+// The rows every test starts from, as SolicitudEnPantalla.h tells them.
+constexpr char kFilas[] =
+    "INSERT INTO Cliente (ClienteID, Nombres, Apellidos, FechaNacimiento, NIT, CedulaRegistro, "
+    "CedulaNumero, CedulaExtendida, CodigoLetra, CodigoNumero, Limite) VALUES "
+    "(1, 'ANA LUCÍA', 'GONZÁLEZ', '1980-05-17', '1234567-8', ' A-1 ', '45678', 'Capital', 'G', 1, 5000),"
+    "(2, 'PEDRO', 'RAMÍREZ', '1975-02-03', 'C/F', 'A-1', '11111', 'Capital', 'R', 1, 0),"
+    "(3, 'LUISA', 'MÉNDEZ', '1990-07-08', 'C/F', 'B-2', '22222', 'Escuintla', 'M', 1, NULL);"
+    "INSERT INTO Fiador (FiadorID, Nombres, Apellidos, FechaNacimiento, CedulaRegistro, CedulaNumero, "
+    "CedulaExtendida, EstadoCivilID, Direccion, Telefonos, CasaPropia, CasaAlquilada, CasaTiempo, "
+    "TrabajoNombre, TrabajoPuesto, TrabajoTiempo, TrabajoSueldo) VALUES "
+    "(1, 'MARIO', 'LÓPEZ', '1970-05-14', 'A-1', '123456', 'Capital', 2, ' 5a calle 3-20 ', '2233-4455', "
+    "1, 1, 14, 'Almacén El Sol', 'Bodeguero', 30, 3500),"
+    "(2, 'ROSA', 'PÉREZ', NULL, 'C-3', '98765', 'Chimaltenango', 1, 'Zona 7', '7788-9900', 0, 1, 5, "
+    "NULL, NULL, 0, 2800),"
+    "(3, 'JUAN', 'SOTO', '1985-01-01', 'A-1', '55555', 'Capital', 3, 'Mixco', '', 0, 0, 0, NULL, NULL, "
+    "11, 1800.5);"
+    "INSERT INTO Articulo (ArticuloID, Nombre, Modelo, Color, Costo, ContadoPorcentaje, ContadoValor) "
+    "VALUES (1, 'REFRIGERADORA', 'RT38', 'BLANCO', 400, 25, 0), (2, 'ESTUFA', 'E4', 'GRIS', 100, 0, 30), "
+    "(3, 'TELEVISOR', 'TV50', 'NEGRO', 800, 10, 0);"
+    "INSERT INTO NotaIngreso (IngresoID, NumeroIngreso, Fecha) VALUES (1, 1, '2026-01-05');"
+    "INSERT INTO NotaIngresoDetalle (IngresoID, ArticuloID, Cantidad, Costo) VALUES "
+    "(1, 1, 20, 400), (1, 2, 20, 100), (1, 3, 1, 800);"
+    "INSERT INTO Solicitud (SolicitudID, NumeroSolicitud, Fecha, ClienteID, FiadorID, FiadorParentesco, "
+    "MesesCredito, DiaPago, Enganche, Estado) VALUES "
+    "(1, 40, '2026-02-01', 1, 1, 'HERMANO', 12, 15, 100, 0),"
+    "(2, 41, '2026-02-15', 1, 2, 'PRIMA', 10, 5, 0, 1);"
+    "INSERT INTO SolicitudDetalle (SolicitudID, ArticuloID, Cantidad, Precio) VALUES "
+    "(1, 2, 3, 390), (2, 1, 1, 500);";
 
-frmSolicitud& SolicitudEnPantalla::pantalla() {
-    auto& p = Common::Pantalla<frmSolicitud>();
-    if (p.isVisible()) return p;
-    auto& abierta = programa_->abrir<frmSolicitud>(QStringLiteral("Créditos"));
-    activar(abierta);
-    return abierta;
-}
+} // namespace
 
-void SolicitudEnPantalla::pulsar(const QString& caption) {
-    auto& p = pantalla();
-    pulsarBoton(p.cmdBoton, caption);
-    if (!p.descargado() && p.isVisible()) activar(p); // back from whatever it opened
+SolicitudEnPantalla::SolicitudEnPantalla()
+    : EnPantalla(kHoy, QStringLiteral("Créditos"), kFilas) {
 }
 
 void SolicitudEnPantalla::buscarSolicitud(const QString& numero) {
@@ -82,7 +64,7 @@ void SolicitudEnPantalla::elegirFiador(const QString& celda) {
 
 void SolicitudEnPantalla::responderLinea(const QString& cantidad, const QString& precio,
                                          const QString& cierre) {
-    entorno_->alMostrarModal([=, this](shell::Formulario& d) {
+    entorno().alMostrarModal([=, this](shell::Formulario& d) {
         auto& linea = static_cast<credito::frmSolicitudArticulo&>(d);
         activar(linea);
         lugarDelDialogo = QPointF(linea.Left() - pantalla().Left(), linea.Top() - pantalla().Top());

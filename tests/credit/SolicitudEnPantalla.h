@@ -3,19 +3,14 @@
 // What the two test programs of the credit application share: the store's rows before each test,
 // the screen opened from "Créditos" as the clerk opens it, and the clerk's gestures on this screen
 // (the bar, the client and guarantor searches, a line added through Insert and its dialog), made of
-// the shared gestures of Gestos.h.
-#include "BaseDePrueba.h"
-#include "EntornoDePantallas.h"
-#include "Gestos.h"
-#include "ProgramaDePrueba.h"
+// the shared gestures of Gestos.h, on the frame of EnPantalla.h.
+#include "EnPantalla.h"
 #include "credit/frmSolicitud.h"
-#include "runtime/Fechas.h"
 
 #include <QDate>
 #include <QPointF>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // Today, unless a test moves the clock.
 inline const QDate kHoy(2026, 3, 10);
@@ -30,22 +25,13 @@ inline const QDate kHoy(2026, 3, 10);
 //                3 TELEVISOR TV50 NEGRO (cost 800 + 10 %: 880.00, 1 in stock)
 //   applications 40 (key 1): pending, ANA LUCÍA with MARIO, 3 stoves for 390, Enganche 100, 12 months;
 //                41 (key 2): approved, ANA LUCÍA with ROSA, 1 refrigerator for 500, 10 months
-class SolicitudEnPantalla {
+class SolicitudEnPantalla : public EnPantalla<credito::frmSolicitud> {
 public:
-    // The clock stopped on kHoy; a test moves it with runtime::FijarReloj.
+    // The clock stopped on kHoy; the screen opened from "Créditos".
     SolicitudEnPantalla();
-    ~SolicitudEnPantalla();
-
-    BaseDePrueba& base() { return *base_; }
-    EntornoDePantallas& entorno() { return *entorno_; }
-    QString db(const QString& consulta) const { return base_->valor(consulta); }
-
-    // "Créditos" in the menu the first time; the screen standing open afterwards.
-    credito::frmSolicitud& pantalla();
-    void pulsar(const QString& caption);
 
     // The next search screen answered by a row with this cell (elegirEnBusqueda).
-    void elegir(const QString& celda) { elegirEnBusqueda(*entorno_, celda); }
+    void elegir(const QString& celda) { elegirEnBusqueda(entorno(), celda); }
     // "Buscar" on the screen, picking the application of this number.
     void buscarSolicitud(const QString& numero);
     // "Cliente >" and "Fiador >", picking by a cell of the search (a surname, a name), or cancelling.
@@ -70,19 +56,13 @@ public:
     QStringList filas();
 
     // The next dialog answered by a button of this caption (or "cmdClose"); its text kept in `texto`.
-    void responder(const QString& boton, QString* texto = nullptr) { ::responder(*entorno_, boton, texto); }
+    void responder(const QString& boton, QString* texto = nullptr) { ::responder(entorno(), boton, texto); }
     // The next text prompt answered with this text and "Aceptar".
-    void responderTexto(const QString& texto) { ::responderTexto(*entorno_, texto); }
+    void responderTexto(const QString& texto) { ::responderTexto(entorno(), texto); }
 
     // "Agregar", then everything an application needs: client ANA LUCÍA, guarantor MARIO, the
     // relation, and the given lines (articles by name, each added with its proposed quantity and
     // price). Leaves the screen editing.
     void llenarNueva(const QStringList& articulos = {QStringLiteral("REFRIGERADORA"),
                                                      QStringLiteral("ESTUFA")});
-
-private:
-    std::unique_ptr<runtime::RelojFijo> reloj_;
-    std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
-    std::unique_ptr<ProgramaDePrueba> programa_;
 };

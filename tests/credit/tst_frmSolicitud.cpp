@@ -2,6 +2,7 @@
 // guarantor and its lines, saved, found, approved, rejected or deleted; what "Guardar" asks for and
 // what stops it; the transaction an edit keeps open; and the client and guarantor panels, read live,
 // with the rule that sends an incomplete client to the client screen.
+#include "ModosDeRegistro.h"
 #include "SolicitudEnPantalla.h"
 #include "credit/frmCliente.h"
 #include "credit/frmFiador.h"
@@ -87,10 +88,12 @@ private:
     frmSolicitud& pantalla() { return s_->pantalla(); }
     void pulsar(const QString& caption) { s_->pulsar(caption); }
     QString db(const QString& consulta) const { return s_->db(consulta); }
-    // Browsing again, with no transaction open.
-    void verificarConsulta();
-    // Still editing in this mode, with the transaction open.
-    void verificarEdicion(const QString& estado);
+    // Browsing again, with no transaction open; still editing in this mode, with the transaction open
+    // (ModosDeRegistro.h). fraSubMain goes with fraMain.
+    void verificarConsulta() { ::verificarConsulta(pantalla(), {pantalla().fraSubMain}); }
+    void verificarEdicion(const QString& estado) {
+        ::verificarEdicion(pantalla(), estado, {pantalla().fraSubMain});
+    }
     std::unique_ptr<SolicitudEnPantalla> s_;
 };
 
@@ -100,29 +103,6 @@ void TstFrmSolicitud::init() {
 
 void TstFrmSolicitud::cleanup() {
     s_.reset();
-}
-
-void TstFrmSolicitud::verificarConsulta() {
-    auto& p = pantalla();
-    QVERIFY(!p.lblEstado->isVisible());
-    QVERIFY(p.cmdBoton[0]->isVisible());
-    QVERIFY(p.cmdBoton[8]->isVisible());
-    QVERIFY(!p.cmdBoton[5]->isVisible());
-    QVERIFY(!p.fraMain->isEnabled());
-    QVERIFY(!p.fraSubMain->isEnabled());
-    QCOMPARE(Common::TransaccionActiva, 0L);
-    QCOMPARE(Common::DE().CN.nivelTransaccion(), 0);
-}
-
-void TstFrmSolicitud::verificarEdicion(const QString& estado) {
-    auto& p = pantalla();
-    QVERIFY(p.lblEstado->isVisible());
-    QCOMPARE(p.lblEstado->text(), estado);
-    QVERIFY(p.cmdBoton[5]->isVisible());
-    QVERIFY(!p.cmdBoton[0]->isVisible());
-    QVERIFY(p.fraMain->isEnabled());
-    QVERIFY(p.fraSubMain->isEnabled());
-    QVERIFY(Common::TransaccionActiva > 0);
 }
 
 // A new application, saved and found again, then decided. Saving keeps the status word the screen

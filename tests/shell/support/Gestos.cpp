@@ -56,11 +56,21 @@ void responderTexto(EntornoDePantallas& entorno, const QString& texto, const QSt
     });
 }
 
-void elegirEnBusqueda(EntornoDePantallas& entorno, const QString& celda) {
-    entorno.alMostrarModal([celda](shell::Formulario& busca) {
-        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
+void elegirEnBusqueda(EntornoDePantallas& entorno, const QString& celda, QStringList* vistos,
+                      const QString& columna) {
+    entorno.alMostrarModal([celda, vistos, columna](shell::Formulario& busca) {
         auto* rejilla = busca.findChild<QTableView*>(QStringLiteral("dg"));
+        if (busca.objectName() != QLatin1String("frmBusca") || !rejilla) {
+            busca.Unload();
+            QFAIL(qPrintable("the search screen was awaited, not " + busca.objectName()));
+        }
+        QTest::mouseClick(busca.findChild<QPushButton*>(QStringLiteral("cmdBoton(0)")), Qt::LeftButton);
         const QAbstractItemModel* m = rejilla->model();
+        if (vistos)
+            for (int c = 0; c < m->columnCount(); ++c)
+                if (m->headerData(c, Qt::Horizontal).toString() == columna)
+                    for (int f = 0; f < m->rowCount(); ++f)
+                        *vistos << m->index(f, c).data().toString();
         if (!celda.isEmpty())
             for (int f = 0; f < m->rowCount(); ++f)
                 for (int c = 0; c < m->columnCount(); ++c)

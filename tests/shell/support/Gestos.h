@@ -30,8 +30,11 @@ void responder(EntornoDePantallas& entorno, const QString& boton, QString* texto
 void responderTexto(EntornoDePantallas& entorno, const QString& texto,
                     const QString& boton = QStringLiteral("Aceptar"));
 // The next search screen: "&Buscar" with no filter, then a double click on the first row with a cell
-// that reads `celda`; its close box when none does (or `celda` is empty).
-void elegirEnBusqueda(EntornoDePantallas& entorno, const QString& celda);
+// that reads `celda`; its close box when none does (or `celda` is empty). The texts of the column
+// headed `columna`, row by row, go to `vistos` when asked for. Another screen shown instead is closed
+// and fails the test.
+void elegirEnBusqueda(EntornoDePantallas& entorno, const QString& celda, QStringList* vistos = nullptr,
+                      const QString& columna = {});
 
 // A key on a detail grid of `pantalla`, on its row `fila`, with the screen made active before and
 // after (a dialog the key opened has gone by then).
