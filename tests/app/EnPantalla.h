@@ -9,7 +9,9 @@
 #include "EntornoDePantallas.h"
 #include "Gestos.h"
 #include "ProgramaDePrueba.h"
+#include "runtime/Conversion.h"
 #include "runtime/Fechas.h"
+#include "store/Recordset.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -26,6 +28,12 @@ public:
     ProgramaDePrueba& programa() { return *programa_; }
     // One value read straight from the database file, as another workstation sees it.
     QString db(const QString& consulta) const { return base_->valor(consulta); }
+    // One value read on the program's shared connection, what an open transaction wrote included.
+    static QString enLaConexion(const QString& consulta) {
+        store::Recordset rs;
+        rs.Open(consulta, Common::DE().CN, store::adOpenStatic, store::adLockReadOnly);
+        return rs.Eof() ? QString() : runtime::TextoDe(rs.Fields(0).Value());
+    }
 
     // The menu item the first time, the screen made active; the screen standing open afterwards.
     Pantalla& pantalla() {

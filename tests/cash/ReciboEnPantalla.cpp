@@ -41,12 +41,6 @@ ReciboEnPantalla::ReciboEnPantalla()
     : EnPantalla(kHoy, QStringLiteral("Recibos"), kFilas) {
 }
 
-QString ReciboEnPantalla::enLaConexion(const QString& consulta) {
-    store::Recordset rs;
-    rs.Open(consulta, Common::DE().CN, store::adOpenStatic, store::adLockReadOnly);
-    return rs.Eof() ? QString() : runtime::TextoDe(rs.Fields(0).Value());
-}
-
 void ReciboEnPantalla::buscarRecibo(const QString& numero) {
     elegirEnBusqueda(entorno(), numero);
     pulsar(QStringLiteral("Buscar"));

@@ -35,9 +35,6 @@ public:
     // The clock stopped on kHoy; the screen opened from "Recibos".
     ReciboEnPantalla();
 
-    // One value read on the program's shared connection, what the open transaction wrote included.
-    static QString enLaConexion(const QString& consulta);
-
     // "Buscar", picking the receipt of this number.
     void buscarRecibo(const QString& numero);
     // "Agregar", then the application of this number typed in "No. Solicitud:" and left.

@@ -33,13 +33,6 @@ QStringList textos(const QList<QLabel*>& etiquetas) {
     return r;
 }
 
-// What the shared connection sees, pending rows included.
-QString enLaConexion(const QString& consulta) {
-    store::Recordset rs;
-    rs.Open(consulta, Common::DE().CN, store::adOpenStatic, store::adLockReadOnly);
-    return runtime::TextoDe(rs.Fields(0).Value());
-}
-
 } // namespace
 
 class TstFrmSolicitud : public QObject {
@@ -442,7 +435,7 @@ void TstFrmSolicitud::ventaRehusada() {
     verificarEdicion(QStringLiteral("Agregar nuevo registro"));
     QVERIFY(Common::DE().CN.nivelTransaccion() > 0);
     // Pending: the row and the first line are in the transaction, not in the database.
-    QCOMPARE(enLaConexion("Select Count(*) From SolicitudDetalle"), QStringLiteral("3"));
+    QCOMPARE(SolicitudEnPantalla::enLaConexion("Select Count(*) From SolicitudDetalle"), QStringLiteral("3"));
     QCOMPARE(db("SELECT count(*) || '/' || (SELECT count(*) FROM SolicitudDetalle) FROM Solicitud"),
              QStringLiteral("2/2"));
 
@@ -469,7 +462,7 @@ void TstFrmSolicitud::ventaRehusada() {
     }
     QCOMPARE(db("SELECT count(*) || '/' || (SELECT count(*) FROM SolicitudDetalle) FROM Solicitud"),
              QStringLiteral("2/2"));
-    QCOMPARE(enLaConexion("Select Count(*) From SolicitudDetalle"), QStringLiteral("2"));
+    QCOMPARE(SolicitudEnPantalla::enLaConexion("Select Count(*) From SolicitudDetalle"), QStringLiteral("2"));
 }
 
 // No status blocks "Modificar": a decided application is changed and keeps its status. A paid-off
@@ -1041,7 +1034,8 @@ void TstFrmSolicitud::clientePendienteNoSeVe() {
     pulsar("Agregar");
     Common::DE().CN.Execute(sentencia);
     const QString clave = apellido == QStringLiteral("GONZÁLEZ") ? QStringLiteral("1") : QStringLiteral("2");
-    QCOMPARE(enLaConexion("Select Nombres & '|' & Limite From Cliente Where ClienteID = " + clave),
+    QCOMPARE(SolicitudEnPantalla::enLaConexion(
+                 "Select Nombres & '|' & Limite From Cliente Where ClienteID = " + clave),
              enLaTransaccion);
     s_->elegir(apellido);
     QString texto;

@@ -3,12 +3,8 @@
 // What the delivery note's test programs share: the store's rows before each test, the screen opened
 // from "Envíos" as the clerk opens it, and the clerk's gestures on it (the bar, a document's kind and
 // number, F2 answered, a note found), made of the shared gestures of Gestos.h.
-#include "BaseDePrueba.h"
-#include "EntornoDePantallas.h"
-#include "Gestos.h"
-#include "ProgramaDePrueba.h"
+#include "EnPantalla.h"
 #include "goods/frmNotaEnvio.h"
-#include "runtime/Fechas.h"
 
 #include <QDate>
 #include <QString>
@@ -28,21 +24,10 @@ inline const QString kTituloEnvio = QStringLiteral("Notas de envío de mercader�
 //   invoice      15 (key 1): PEDRO, 2 refrigerators
 //   receipts     8 (key 1): the name JUAN PÉREZ, 1 TV
 //                9 (key 2): the name LUIS MÉNDEZ, 1 refrigerator, already delivered by note 3 (key 1)
-class EnvioEnPantalla {
+class EnvioEnPantalla : public EnPantalla<mercaderia::frmNotaEnvio> {
 public:
     EnvioEnPantalla();
-    ~EnvioEnPantalla();
 
-    BaseDePrueba& base() { return *base_; }
-    EntornoDePantallas& entorno() { return *entorno_; }
-    // One value read straight from the database file, as another workstation sees it.
-    QString db(const QString& consulta) const { return base_->valor(consulta); }
-    // One value read on the program's shared connection, what the open transaction wrote included.
-    static QString enLaConexion(const QString& consulta);
-
-    // "Envíos" in the menu the first time; the screen standing open afterwards.
-    mercaderia::frmNotaEnvio& pantalla();
-    void pulsar(const QString& caption);
     // "Buscar", picking the note of this number.
     void buscarNota(const QString& numero);
     // "Agregar", the option of this kind clicked, the number typed and left.
@@ -52,10 +37,4 @@ public:
     QStringList f2(const QString& elegir = {});
     // The grid's rows, cells joined by "|".
     QStringList lineas();
-
-private:
-    std::unique_ptr<runtime::RelojFijo> reloj_;
-    std::unique_ptr<BaseDePrueba> base_;
-    std::unique_ptr<EntornoDePantallas> entorno_;
-    std::unique_ptr<ProgramaDePrueba> programa_;
 };
