@@ -23,9 +23,9 @@
 // key, its lines by ixNotaIngresoDetalleNota, a new article by its key, and in (b) each line's article
 // by its key and its stock through the movement indexes by article (ixNotaIngresoDetalleArticulo,
 // ixNotaEnvioDetalleArticulo), which hold as many lines per article at both sizes. None reads a row of
-// another note, so the work does not grow with the store; the B-trees only get one level deeper at
-// most. The article search of the line dialog reads the whole catalogue (500 and 5,000 articles) for
-// every line; that is the clerk's way and comes before "Guardar", outside the figure.
+// another note, so the work does not grow with the store; only the B-trees get deeper. The article
+// search of the line dialog reads the whole catalogue (500 and 5,000 articles) for every line; that is
+// the clerk's way and comes before "Guardar", outside the figure.
 //
 // The existing articles are spread over the whole catalogue (a prime stride), none twice in a store.
 // The 22 notes are saved first (one to warm up), then shown again in the same order, so that no save
