@@ -20,9 +20,13 @@ int articulosDeTiendaSintetica(int solicitudes) {
 }
 
 void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes) {
+    llenarTiendaSintetica(base, solicitudes, solicitudes / 20);
+}
+
+void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes, int ingresos) {
     constexpr int proveedores = 20;
     const int articulos = articulosDeTiendaSintetica(solicitudes);
-    const int clientes = solicitudes / 2, notas = solicitudes / 20;
+    const int clientes = solicitudes / 2, notas = ingresos;
     QString s = QStringLiteral("BEGIN;");
     s += contar(proveedores) +
          "INSERT INTO Proveedor (Nombre, NIT) SELECT 'Proveedor ' || i, i || '-K' FROM n;";

@@ -10,5 +10,10 @@ class BaseDePrueba;
 // lines, some 40 units sold) is the same at any size.
 void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes);
 
+// The same store with `ingresos` goods-in notes (five lines of 50 units each, each half paid by a
+// document) instead of one per 20 applications. The catalogue is still that of `solicitudes`
+// applications: each article receives 5 x ingresos / articles goods-in lines.
+void llenarTiendaSintetica(const BaseDePrueba& base, int solicitudes, int ingresos);
+
 // The articles of a synthetic store of `solicitudes` applications, keys 1 to that number.
 int articulosDeTiendaSintetica(int solicitudes);
