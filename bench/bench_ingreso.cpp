@@ -41,6 +41,7 @@
 // Prints the milliseconds at each size and their ratio; exits with 1 when a ratio is above 1.2, and
 // with 2 when a check fails.
 #include "BaseDePrueba.h"
+#include "ConductorDePantallas.h"
 #include "Medicion.h"
 #include "TiendaSintetica.h"
 #include "goods/frmNotaIngreso.h"
@@ -55,14 +56,10 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <cstdio>
-#include <deque>
-#include <functional>
-#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -71,63 +68,6 @@ constexpr int kNotas = 21;       // notes saved and shown again per store, after
 constexpr int kLineas = 20;      // lines of each note
 constexpr int kProveedores = 20; // the synthetic store's suppliers
 constexpr double kTope = 1.2;    // the largest ratio accepted between the two sizes
-
-struct FalloDeMedicion : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-void exigir(bool condicion, const QString& que) {
-    if (!condicion) throw FalloDeMedicion(que.toStdString());
-}
-
-// The modal driver: the modal screens a step expects are answered in their order, each by a function
-// that tells whether the screen shown is the one it answers (a screen opened from inside another takes
-// the next one). Any other modal screen (a message above all) is written down with its texts and
-// closed.
-struct Conductor {
-    std::deque<std::function<bool(shell::Formulario&)>> esperadas;
-    QStringList inesperadas;
-    QElapsedTimer desdeLaEleccion; // started once the note search has gone
-} conductor;
-
-QString textos(shell::Formulario& f) {
-    QStringList t{f.objectName()};
-    for (const QLabel* l : f.findChildren<QLabel*>())
-        if (!l->text().trimmed().isEmpty()) t << l->text().trimmed();
-    return t.join(QStringLiteral(" | "));
-}
-
-void pulsarEn(shell::Formulario& f, const QString& caption) {
-    for (QPushButton* b : f.findChildren<QPushButton*>())
-        if (b->text() == caption) return b->click();
-    conductor.inesperadas << f.objectName() + QStringLiteral(" without a button ") + caption;
-    f.Unload();
-}
-
-void instalarConductor() {
-    Common::InstalarConductorModal([](shell::Formulario& f) {
-        if (!conductor.esperadas.empty()) {
-            const auto responder = conductor.esperadas.front();
-            conductor.esperadas.pop_front();
-            if (responder(f)) return;
-        }
-        conductor.inesperadas << textos(f);
-        f.Unload();
-    });
-    Common::InstalarGanchoFatal([](const store::Fallo& fallo) {
-        conductor.inesperadas << QStringLiteral("unhandled failure: ") + fallo.descripcion();
-    });
-}
-
-void sinPantallasInesperadas(const QString& paso) {
-    if (conductor.inesperadas.isEmpty() && conductor.esperadas.empty()) return;
-    QString que = paso + QStringLiteral(": ") + conductor.inesperadas.join(QStringLiteral("; "));
-    if (!conductor.esperadas.empty())
-        que += QStringLiteral(" (%1 expected screens not shown)").arg(conductor.esperadas.size());
-    conductor.inesperadas.clear();
-    conductor.esperadas.clear();
-    throw FalloDeMedicion(que.toStdString());
-}
 
 // Both searches list their rows in key order, so the row is found by its position, at no cost that
 // grows with the store.
@@ -219,14 +159,6 @@ void darLinea(const Linea& l) {
         return true;
     });
     if (l.articulo > 0) elegirEnBusqueda(l.articulo, false);
-}
-
-// The clerk's keyboard: a key sent to the control that has the focus.
-void tecla(QWidget* control, Qt::Key k, const QString& texto = {}) {
-    QKeyEvent abajo(QEvent::KeyPress, k, Qt::NoModifier, texto);
-    QCoreApplication::sendEvent(control, &abajo);
-    QKeyEvent arriba(QEvent::KeyRelease, k, Qt::NoModifier, texto);
-    QCoreApplication::sendEvent(control, &arriba);
 }
 
 void activar(mercaderia::frmNotaIngreso& f) {
@@ -479,13 +411,7 @@ int main(int argc, char* argv[]) {
     const int pequena = argc > 1 ? QString::fromLatin1(argv[1]).toInt() : 10000;
     instalarConductor();
     Medida a, b;
-    try {
-        a = medir(pequena);
-        b = medir(pequena * 10);
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "bench_ingreso: %s\n", e.what());
-        return 2;
-    }
+    if (!medirAmbas("bench_ingreso", medir, pequena, a, b)) return 2;
     const double razonGuardar = b.guardar / a.guardar, razonMostrar = b.mostrar / a.mostrar;
     std::printf("\nfrmNotaIngreso, milliseconds (median)        %10d %10d   ratio\n", pequena, pequena * 10);
     std::printf("%-44s %10.2f %10.2f %7.2f\n", "(a) \"Guardar\" of 20 lines, one transaction", a.guardar,
@@ -497,11 +423,5 @@ int main(int argc, char* argv[]) {
                 b.buscarEntero / a.buscarEntero);
     std::printf("(b) leaves out the search screen, which reads the whole of vwBuscaNotaIngreso on opening\n");
     std::printf("stores built in %.1f s and %.1f s; medians of %d\n", a.llenado, b.llenado, kNotas);
-    bool bien = true;
-    for (const auto& [nombre, razon] : {std::pair{"(a)", razonGuardar}, std::pair{"(b)", razonMostrar}})
-        if (razon > kTope) {
-            std::printf("%s: ratio %.2f is above %.1f\n", nombre, razon, kTope);
-            bien = false;
-        }
-    return bien ? 0 : 1;
+    return salidaPorRazones({{"(a)", razonGuardar}, {"(b)", razonMostrar}}, kTope);
 }

@@ -34,6 +34,7 @@
 // Prints the milliseconds at each size and their ratio; exits with 1 when a ratio is above 1.2, and
 // with 2 when a check fails.
 #include "BaseDePrueba.h"
+#include "ConductorDePantallas.h"
 #include "Medicion.h"
 #include "TiendaSintetica.h"
 #include "cash/frmRecibo.h"
@@ -49,15 +50,11 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <deque>
-#include <functional>
-#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -67,61 +64,6 @@ constexpr int kGuardados = 21; // receipts saved per store, after one to warm up
 constexpr int kLineas = 5;     // lines of each saved receipt
 constexpr double kMora = 25;   // mora added to the application by each saved receipt
 constexpr double kTope = 1.2;  // the largest ratio accepted between the two sizes
-
-struct FalloDeMedicion : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-void exigir(bool condicion, const QString& que) {
-    if (!condicion) throw FalloDeMedicion(que.toStdString());
-}
-
-// The modal driver: the modal screens a step expects are answered in their order, each by a function
-// that tells whether the screen shown is the one it answers. Any other modal screen (a message above
-// all) is written down with its texts and closed.
-struct Conductor {
-    std::deque<std::function<bool(shell::Formulario&)>> esperadas;
-    QStringList inesperadas;
-} conductor;
-
-QString textos(shell::Formulario& f) {
-    QStringList t{f.objectName()};
-    for (const QLabel* l : f.findChildren<QLabel*>())
-        if (!l->text().trimmed().isEmpty()) t << l->text().trimmed();
-    return t.join(QStringLiteral(" | "));
-}
-
-void pulsarEn(shell::Formulario& f, const QString& caption) {
-    for (QPushButton* b : f.findChildren<QPushButton*>())
-        if (b->text() == caption) return b->click();
-    conductor.inesperadas << f.objectName() + QStringLiteral(" without a button ") + caption;
-    f.Unload();
-}
-
-void instalarConductor() {
-    Common::InstalarConductorModal([](shell::Formulario& f) {
-        if (!conductor.esperadas.empty()) {
-            const auto responder = conductor.esperadas.front();
-            conductor.esperadas.pop_front();
-            if (responder(f)) return;
-        }
-        conductor.inesperadas << textos(f);
-        f.Unload();
-    });
-    Common::InstalarGanchoFatal([](const store::Fallo& fallo) {
-        conductor.inesperadas << QStringLiteral("unhandled failure: ") + fallo.descripcion();
-    });
-}
-
-void sinPantallasInesperadas(const QString& paso) {
-    if (conductor.inesperadas.isEmpty() && conductor.esperadas.empty()) return;
-    QString que = paso + QStringLiteral(": ") + conductor.inesperadas.join(QStringLiteral("; "));
-    if (!conductor.esperadas.empty())
-        que += QStringLiteral(" (%1 expected screens not shown)").arg(conductor.esperadas.size());
-    conductor.inesperadas.clear();
-    conductor.esperadas.clear();
-    throw FalloDeMedicion(que.toStdString());
-}
 
 // The pick list answered with the row of this description, as a double click on it would.
 void elegirConcepto(const QString& descripcion) {
@@ -167,14 +109,6 @@ void agregarMora(const QString& monto) {
         pulsarEn(f, QStringLiteral("Aceptar"));
         return true;
     });
-}
-
-// The clerk's keyboard: a key sent to the control that has the focus.
-void tecla(QWidget* control, Qt::Key k, const QString& texto = {}) {
-    QKeyEvent abajo(QEvent::KeyPress, k, Qt::NoModifier, texto);
-    QCoreApplication::sendEvent(control, &abajo);
-    QKeyEvent arriba(QEvent::KeyRelease, k, Qt::NoModifier, texto);
-    QCoreApplication::sendEvent(control, &arriba);
 }
 
 // The screen in front, taking the keyboard, as after the clerk's click on it.
@@ -446,13 +380,7 @@ int main(int argc, char* argv[]) {
     const int pequena = argc > 1 ? QString::fromLatin1(argv[1]).toInt() : 10000;
     instalarConductor();
     Medida a, b;
-    try {
-        a = medir(pequena);
-        b = medir(pequena * 10);
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "bench_recibo: %s\n", e.what());
-        return 2;
-    }
+    if (!medirAmbas("bench_recibo", medir, pequena, a, b)) return 2;
     const double razonCargar = b.cargar / a.cargar, razonGuardar = b.guardar / a.guardar;
     std::printf("\nfrmRecibo, milliseconds (median)             %10d %10d   ratio\n", pequena, pequena * 10);
     std::printf("%-44s %10.2f %10.2f %7.2f\n", "(a) application loaded, number left", a.cargar, b.cargar,
@@ -463,11 +391,5 @@ int main(int argc, char* argv[]) {
                 a.agregar, b.agregar, b.agregar / a.agregar);
     std::printf("stores built in %.1f s and %.1f s; (a) median of %d, (b) median of %d\n", a.llenado,
                 b.llenado, kCargas, kGuardados);
-    bool bien = true;
-    for (const auto& [nombre, razon] : {std::pair{"(a)", razonCargar}, std::pair{"(b)", razonGuardar}})
-        if (razon > kTope) {
-            std::printf("%s: ratio %.2f is above %.1f\n", nombre, razon, kTope);
-            bien = false;
-        }
-    return bien ? 0 : 1;
+    return salidaPorRazones({{"(a)", razonCargar}, {"(b)", razonGuardar}}, kTope);
 }

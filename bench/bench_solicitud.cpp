@@ -28,6 +28,7 @@
 // Prints the milliseconds at each size and their ratio; exits with 1 when a ratio is above 1.2, and
 // with 2 when a check fails.
 #include "BaseDePrueba.h"
+#include "ConductorDePantallas.h"
 #include "Medicion.h"
 #include "TiendaSintetica.h"
 #include "credit/frmSolicitud.h"
@@ -43,7 +44,6 @@
 #include <QPushButton>
 #include <algorithm>
 #include <cstdio>
-#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -53,21 +53,7 @@ constexpr int kGuardadas = 21; // applications saved per store, after one to war
 constexpr int kLineas = 20;    // lines of each saved application
 constexpr double kTope = 1.2;  // the largest ratio accepted between the two sizes
 
-struct FalloDeMedicion : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-void exigir(bool condicion, const QString& que) {
-    if (!condicion) throw FalloDeMedicion(que.toStdString());
-}
-
-// The modal driver: the search screen is answered with the row of the key asked for, as a double
-// click on it would; any other modal screen (a message, the client screen) is written down and closed.
-struct Conductor {
-    QVariant clave;                // the key to pick in the next search
-    QElapsedTimer desdeLaEleccion; // started once the search screen has gone
-    QStringList inesperadas;       // every other modal screen shown, with its texts
-} conductor;
+QVariant claveBuscada; // the key to pick in the next search
 
 // The row under the clerk's double click, its fields handed back as the search screen hands them. The
 // synthetic store lists its applications in key order, so the row is found by its position, at no
@@ -88,42 +74,27 @@ void elegirEnBusqueda(shell::frmBusca& busca) {
     // What the search screen's own modal loop does while the clerk reads it: its pending events run.
     QCoreApplication::processEvents();
     store::Recordset* rs = busca.ado->Recordset();
-    if (!ponerEnFila(*rs, conductor.clave)) {
+    if (!ponerEnFila(*rs, claveBuscada)) {
         conductor.inesperadas << QStringLiteral("frmBusca without application ") +
-                                     runtime::TextoDe(conductor.clave);
+                                     runtime::TextoDe(claveBuscada);
         Common::Parametros.ReDim(1);
     } else {
         Common::Parametros.ReDim(rs->FieldCount());
         for (int i = 0; i < rs->FieldCount(); ++i)
             Common::Parametros(i + 1) = rs->Fields(i).Value();
     }
-    conductor.clave = QVariant();
+    claveBuscada = QVariant();
     busca.Unload();
     conductor.desdeLaEleccion.start();
 }
 
-void instalarConductor() {
-    Common::InstalarConductorModal([](shell::Formulario& f) {
-        if (auto* busca = qobject_cast<shell::frmBusca*>(&f); busca && conductor.clave.isValid()) {
-            elegirEnBusqueda(*busca);
-            return;
-        }
-        QStringList textos{f.objectName()};
-        for (const QLabel* l : f.findChildren<QLabel*>())
-            if (!l->text().trimmed().isEmpty()) textos << l->text().trimmed();
-        conductor.inesperadas << textos.join(QStringLiteral(" | "));
-        f.Unload();
-    });
-    Common::InstalarGanchoFatal([](const store::Fallo& fallo) {
-        conductor.inesperadas << QStringLiteral("unhandled failure: ") + fallo.descripcion();
-    });
-}
-
-void sinPantallasInesperadas(const QString& paso) {
-    if (conductor.inesperadas.isEmpty()) return;
-    const QString que = paso + QStringLiteral(": ") + conductor.inesperadas.join(QStringLiteral("; "));
-    conductor.inesperadas.clear();
-    throw FalloDeMedicion(que.toStdString());
+// The search screen answered with the row of the key asked for, as a double click on it would; any
+// other modal screen (a message, the client screen) is written down and closed by the shared driver.
+bool responderBusqueda(shell::Formulario& f) {
+    auto* busca = qobject_cast<shell::frmBusca*>(&f);
+    if (!busca || !claveBuscada.isValid()) return false;
+    elegirEnBusqueda(*busca);
+    return true;
 }
 
 QPushButton* botonVisible(credito::frmSolicitud& f, const QString& caption) {
@@ -177,7 +148,7 @@ credito::frmSolicitud& pantalla() {
 
 // The screen's "Buscar" answered with this key; returns the time from the pick on.
 double buscar(credito::frmSolicitud& f, long clave, double* entero = nullptr) {
-    conductor.clave = QVariant(qlonglong(clave));
+    claveBuscada = QVariant(qlonglong(clave));
     QElapsedTimer reloj;
     reloj.start();
     botonVisible(f, QStringLiteral("Buscar"))->click();
@@ -186,7 +157,7 @@ double buscar(credito::frmSolicitud& f, long clave, double* entero = nullptr) {
     // The search screen's rows go now, outside every figure.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     sinPantallasInesperadas(QStringLiteral("Buscar %1").arg(clave));
-    exigir(!conductor.clave.isValid(), QStringLiteral("the search screen was not shown"));
+    exigir(!claveBuscada.isValid(), QStringLiteral("the search screen was not shown"));
     return desdeLaEleccion;
 }
 
@@ -325,15 +296,9 @@ int main(int argc, char* argv[]) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     const int pequena = argc > 1 ? QString::fromLatin1(argv[1]).toInt() : 10000;
-    instalarConductor();
+    instalarConductor(responderBusqueda);
     Medida a, b;
-    try {
-        a = medir(pequena);
-        b = medir(pequena * 10);
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "bench_solicitud: %s\n", e.what());
-        return 2;
-    }
+    if (!medirAmbas("bench_solicitud", medir, pequena, a, b)) return 2;
     const double razonTraer = b.traer / a.traer, razonGuardar = b.guardar / a.guardar;
     std::printf("\nfrmSolicitud, milliseconds (median)           %10d %10d   ratio\n", pequena, pequena * 10);
     std::printf("%-44s %10.2f %10.2f %7.2f\n", "(a) application brought up, from the pick on", a.traer,
@@ -346,11 +311,5 @@ int main(int argc, char* argv[]) {
     std::printf("(a) leaves out the search screen, which reads the whole of vwBuscaSolicitud on opening\n");
     std::printf("stores built in %.1f s and %.1f s; (a) median of %d, (b) median of %d\n", a.llenado,
                 b.llenado, kTraidas, kGuardadas);
-    bool bien = true;
-    for (const auto& [nombre, razon] : {std::pair{"(a)", razonTraer}, std::pair{"(b)", razonGuardar}})
-        if (razon > kTope) {
-            std::printf("%s: ratio %.2f is above %.1f\n", nombre, razon, kTope);
-            bien = false;
-        }
-    return bien ? 0 : 1;
+    return salidaPorRazones({{"(a)", razonTraer}, {"(b)", razonGuardar}}, kTope);
 }
