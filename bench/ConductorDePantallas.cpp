@@ -1,7 +1,10 @@
 #include "ConductorDePantallas.h"
 
+#include "runtime/Conversion.h"
 #include "shell/common/Common.h"
 #include "shell/marco/Formulario.h"
+#include "shell/marco/Marco.h"
+#include "store/Recordset.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -69,4 +72,21 @@ int salidaPorRazones(std::initializer_list<std::pair<const char*, double>> razon
             bien = false;
         }
     return bien ? 0 : 1;
+}
+
+QPushButton* botonVisible(shell::Marco& pantalla, const QString& caption) {
+    for (QPushButton* b : pantalla.cmdBoton)
+        if (b && b->isVisible() && b->text() == caption) return b;
+    throw FalloDeMedicion(("no button " + caption).toStdString());
+}
+
+bool ponerEnFila(store::Recordset& rs, const QVariant& clave) {
+    const int posicion = int(clave.toLongLong());
+    if (posicion >= 1 && posicion <= rs.RecordCount()) {
+        rs.setAbsolutePosition(posicion);
+        if (rs.Fields(0).Value().toLongLong() == clave.toLongLong()) return true;
+    }
+    rs.MoveFirst();
+    rs.Find(QStringLiteral("hidID = ") + runtime::TextoDe(clave));
+    return !rs.Eof();
 }

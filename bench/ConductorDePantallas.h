@@ -11,9 +11,15 @@
 #include <stdexcept>
 #include <utility>
 
+class QPushButton;
+class QVariant;
 class QWidget;
 namespace shell {
 class Formulario;
+class Marco;
+} // namespace shell
+namespace store {
+class Recordset;
 }
 
 // What the screen benchmarks share: their failed check, the driver of the modal screens a run shows,
@@ -49,6 +55,14 @@ void instalarConductor(std::function<bool(shell::Formulario&)> primero = {});
 
 // Fails the step when a screen was not expected, or an expected one was not shown.
 void sinPantallasInesperadas(const QString& paso);
+
+// The visible button of a screen's bar with this caption; none is a failed check.
+QPushButton* botonVisible(shell::Marco& pantalla, const QString& caption);
+
+// A search's rows lie in key order in the synthetic stores, so the row of a key (column hidID, the
+// first) is found by its position, at no cost that grows with the store; a walk through every row
+// would leave the caches full of the search's rows just before a timer starts. False when absent.
+bool ponerEnFila(store::Recordset& rs, const QVariant& clave);
 
 // The clerk's keyboard: a key sent to the control that has the focus.
 void tecla(QWidget* control, Qt::Key k, const QString& texto = {});

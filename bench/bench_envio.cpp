@@ -57,19 +57,6 @@ constexpr double kTope = 1.2; // the largest ratio accepted between the two size
 
 QVariant claveBuscada; // the key to pick in the next search
 
-// The search lists the notes in key order, so the row is found by its position, at no cost that grows
-// with the store.
-bool ponerEnFila(store::Recordset& rs, const QVariant& clave) {
-    const int posicion = int(clave.toLongLong());
-    if (posicion >= 1 && posicion <= rs.RecordCount()) {
-        rs.setAbsolutePosition(posicion);
-        if (rs.Fields(0).Value() == clave) return true;
-    }
-    rs.MoveFirst();
-    rs.Find(QStringLiteral("hidID = ") + runtime::TextoDe(clave));
-    return !rs.Eof();
-}
-
 void elegirEnBusqueda(shell::frmBusca& busca) {
     QCoreApplication::processEvents();
     store::Recordset* rs = busca.ado->Recordset();
@@ -93,12 +80,6 @@ bool responderBusqueda(shell::Formulario& f) {
     if (!busca || !claveBuscada.isValid()) return false;
     elegirEnBusqueda(*busca);
     return true;
-}
-
-QPushButton* botonVisible(mercaderia::frmNotaEnvio& f, const QString& caption) {
-    for (QPushButton* b : f.cmdBoton)
-        if (b && b->isVisible() && b->text() == caption) return b;
-    throw FalloDeMedicion(("no button " + caption).toStdString());
 }
 
 void activar(mercaderia::frmNotaEnvio& f) {

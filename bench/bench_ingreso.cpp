@@ -69,18 +69,6 @@ constexpr int kLineas = 20;      // lines of each note
 constexpr int kProveedores = 20; // the synthetic store's suppliers
 constexpr double kTope = 1.2;    // the largest ratio accepted between the two sizes
 
-// Both searches list their rows in key order, so the row is found by its position, at no cost that
-// grows with the store.
-bool ponerEnFila(store::Recordset& rs, long clave) {
-    if (clave >= 1 && clave <= rs.RecordCount()) {
-        rs.setAbsolutePosition(int(clave));
-        if (rs.Fields(0).Value().toLongLong() == clave) return true;
-    }
-    rs.MoveFirst();
-    rs.Find(QStringLiteral("hidID = ") + QString::number(clave));
-    return !rs.Eof();
-}
-
 // The search screen answered with the row of this key, as a double click on it would; `cronometrar`
 // starts the clock of (b) once it has gone.
 void elegirEnBusqueda(long clave, bool cronometrar) {
@@ -89,7 +77,7 @@ void elegirEnBusqueda(long clave, bool cronometrar) {
         if (!busca) return false;
         QCoreApplication::processEvents();
         store::Recordset* rs = busca->ado->Recordset();
-        if (!ponerEnFila(*rs, clave)) {
+        if (!ponerEnFila(*rs, QVariant(qlonglong(clave)))) {
             conductor.inesperadas << QStringLiteral("frmBusca without the key %1").arg(clave);
             Common::Parametros.ReDim(1);
         } else {
@@ -165,12 +153,6 @@ void activar(mercaderia::frmNotaIngreso& f) {
     f.activateWindow();
     QCoreApplication::processEvents();
     exigir(QApplication::activeWindow() == &f, QStringLiteral("frmNotaIngreso did not become active"));
-}
-
-QPushButton* botonVisible(mercaderia::frmNotaIngreso& f, const QString& caption) {
-    for (QPushButton* b : f.cmdBoton)
-        if (b && b->isVisible() && b->text() == caption) return b;
-    throw FalloDeMedicion(("no button " + caption).toStdString());
 }
 
 // Insert on the lines, as the clerk presses it with the grid in focus.

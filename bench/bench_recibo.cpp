@@ -129,12 +129,6 @@ void escribir(caja::frmRecibo& f, shell::CajaTexto* caja, const QString& texto) 
     exigir(caja->Text() == texto, caja->objectName() + QStringLiteral(" reads ") + caja->Text());
 }
 
-QPushButton* botonVisible(caja::frmRecibo& f, const QString& caption) {
-    for (QPushButton* b : f.cmdBoton)
-        if (b && b->isVisible() && b->text() == caption) return b;
-    throw FalloDeMedicion(("no button " + caption).toStdString());
-}
-
 // The k-th of `cuantas` keys spread evenly over 1..n, moved down to an approved application (the
 // synthetic store leaves pending the applications ending in 0 and rejected those ending in 9).
 long aprobada(int k, int cuantas, int n, int desplazamiento = 0) {

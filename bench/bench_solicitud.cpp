@@ -55,21 +55,6 @@ constexpr double kTope = 1.2;  // the largest ratio accepted between the two siz
 
 QVariant claveBuscada; // the key to pick in the next search
 
-// The row under the clerk's double click, its fields handed back as the search screen hands them. The
-// synthetic store lists its applications in key order, so the row is found by its position, at no
-// cost that grows with the store; a walk through every row, were the order another, would leave the
-// caches full of the search screen's rows just before the timer starts.
-bool ponerEnFila(store::Recordset& rs, const QVariant& clave) {
-    const int posicion = int(clave.toLongLong());
-    if (posicion >= 1 && posicion <= rs.RecordCount()) {
-        rs.setAbsolutePosition(posicion);
-        if (rs.Fields(0).Value() == clave) return true;
-    }
-    rs.MoveFirst();
-    rs.Find(QStringLiteral("hidID = ") + runtime::TextoDe(clave));
-    return !rs.Eof();
-}
-
 void elegirEnBusqueda(shell::frmBusca& busca) {
     // What the search screen's own modal loop does while the clerk reads it: its pending events run.
     QCoreApplication::processEvents();
@@ -95,12 +80,6 @@ bool responderBusqueda(shell::Formulario& f) {
     if (!busca || !claveBuscada.isValid()) return false;
     elegirEnBusqueda(*busca);
     return true;
-}
-
-QPushButton* botonVisible(credito::frmSolicitud& f, const QString& caption) {
-    for (QPushButton* b : f.cmdBoton)
-        if (b && b->isVisible() && b->text() == caption) return b;
-    throw FalloDeMedicion(("no button " + caption).toStdString());
 }
 
 // What the synthetic store lacks for the credit screen: its clients carry no birth date nor identity
